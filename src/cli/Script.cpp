@@ -1,0 +1,253 @@
+#include "Script.h"
+
+#include <charconv>
+#include <istream>
+#include <ostream>
+
+#include "CliSurface.h"
+#include "StateJson.h"
+#include "engine/Pointer.h"
+#include "session/Program.h"
+
+namespace qv {
+
+namespace {
+
+// Where the pointer takes hold of a card: inside the strip of it that shows on a pile.
+constexpr double kGripX = 500;
+constexpr double kGripY = 30;
+
+bool ToInt(const std::string& s, int& out) {
+  const char* last = s.data() + s.size();
+  auto [p, ec] = std::from_chars(s.data(), last, out);
+  return ec == std::errc() && p == last;
+}
+
+CommandError Usage(const std::string& m) { return {kUsageError, m}; }
+
+// A whole number of 1 to 15 digits, not 0: what a drawn game number can be.
+bool IsRandomStyleNumber(const std::string& s) {
+  if (s.empty() || s.size() > 15 || s.find_first_not_of("0123456789") != std::string::npos) return false;
+  return s.find_first_not_of('0') != std::string::npos;
+}
+
+}  // namespace
+
+std::vector<std::string> SplitWords(const std::string& line) {
+  std::vector<std::string> words;
+  std::string word;
+  bool quoted = false, inWord = false;
+  for (char c : line) {
+    if (c == '"') {
+      quoted = !quoted;
+      inWord = true;
+    } else if ((c == ' ' || c == '\t' || c == '\r') && !quoted) {
+      if (inWord) words.push_back(word);
+      word.clear();
+      inWord = false;
+    } else {
+      word += c;
+      inWord = true;
+    }
+  }
+  if (inWord) words.push_back(word);
+  return words;
+}
+
+void ReplayToEnd(Program& app) {
+  auto& window = app.surface.window;
+  while (window.TimerEnabled(Timer::Forward)) {
+    int speed = app.cRegistry.Get(setting::ReplaySpeed);
+    if (!app.cEngine.Redo(speed)) {
+      window.EnableTimer(Timer::Forward, false);
+      window.EnableTimer(Timer::Backward, false);
+    }
+  }
+}
+
+int ScriptRunner::Run(std::istream& script) {
+  std::string line;
+  int number = 0;
+  while (std::getline(script, line)) {
+    ++number;
+    const auto words = SplitWords(line);
+    if (words.empty() || words[0].starts_with('#')) continue;
+    bool finished = false;
+    const CommandError e = Execute(words, finished);
+    if (e.status != kOk) {
+      dialogs_.messages.clear();
+      std::cerr << "quorvale-cli: line " << number << ": " << e.message << "\n";
+      return e.status;
+    }
+    dialogs_.Flush();
+    if (finished) break;
+  }
+  return kOk;
+}
+
+CommandError ScriptRunner::FromDialogs(ExitStatus status, const std::string& fallback) {
+  return {status, dialogs_.messages.empty() ? fallback : dialogs_.messages.back()};
+}
+
+CommandError ScriptRunner::Execute(const std::vector<std::string>& w, bool& finished) {
+  const std::string& cmd = w[0];
+  // Every command stops a replay first, as every command of the window does.
+  app_.surface.window.EnableTimer(Timer::Forward, false);
+  app_.surface.window.EnableTimer(Timer::Backward, false);
+  if (cmd == "drag") return Drag(w, true);
+  if (cmd == "dragxy") return Drag(w, false);
+  if (cmd == "dblclick") return DoubleClick(w);
+  if (cmd == "stock") return w.size() == 1 ? Stock() : Usage("stock takes no arguments");
+  if (cmd == "undo" || cmd == "redo" || cmd == "undoall" || cmd == "redoall" || cmd == "moveto")
+    return Journal(cmd, w);
+  if (cmd == "show" || cmd == "title" || cmd == "exit") {
+    if (w.size() != 1) return Usage(cmd + " takes no arguments");
+    if (cmd == "show") out_ << StateJson(app_) << "\n";
+    if (cmd == "title") {
+      app_.cGamePlay.Update_Title();
+      out_ << app_.cGamePlay.Title() << "\n";
+    }
+    if (cmd == "exit") {
+      app_.cGamePlay.Unload();
+      finished = true;
+    }
+    return {};
+  }
+  return Session(cmd, w);
+}
+
+CommandError ScriptRunner::Session(const std::string& cmd, const std::vector<std::string>& w) {
+  auto& gp = app_.cGamePlay;
+  const bool running = gp.Game_Status() == 1, onTable = gp.Game_Status() > 0;
+  if (cmd == "new" || cmd == "number") {
+    if (w.size() != 3) return Usage(cmd + " takes a game and a number");
+    const bool typed = cmd == "number";
+    if (typed ? !GameNo::IsDigitText(w[2]) : !IsRandomStyleNumber(w[2]))
+      return Usage(typed ? "a typed game number is digits with at most one '.'"
+                         : "a game number is a whole number of 1 to 15 digits");
+    const GameNo no = typed ? GameNo::Typed(w[2]) : GameNo::Number(std::to_string(std::stoull(w[2])));
+    if (!gp.PlayNumber(w[1], no)) return FromDialogs(kUsageError, "the game cannot be dealt");
+    return {};
+  }
+  if (cmd == "tick") {
+    int n = 0;
+    if (w.size() != 2 || !ToInt(w[1], n) || n < 0) return Usage("tick takes a number of seconds");
+    for (int i = 0; i < n && app_.surface.window.TimerEnabled(Timer::Game); ++i) gp.TickGame();
+    return {};
+  }
+  if (cmd == "open" || cmd == "save") {
+    if (w.size() != 2) return Usage(cmd + " takes a path");
+    if (cmd == "open") {
+      if (!gp.PlayFile(w[1], true)) return FromDialogs(kFileError, "the saved game cannot be played");
+      ReplayToEnd(app_);
+      return {};
+    }
+    std::string error;
+    if (running && !app_.cEngine.SavetoFile(w[1], &error))
+      return {kFileError, "the game could not be saved to \"" + w[1] + "\": " + error};
+    return {};
+  }
+  if (w.size() != 1) return Usage(cmd + " takes no arguments");
+  if (cmd == "pause") {
+    if (running) {
+      gp.PauseGame(!gp.PauseStatus());
+      app_.cSound.PauseGame();
+    }
+  } else if (cmd == "restart") {
+    if (running && !gp.Restart()) return FromDialogs(kUsageError, "the game cannot be dealt again");
+  } else if (cmd == "close") {
+    if (onTable) {
+      if (running) gp.EndGame(0, false);
+      else gp.ClearArea();
+      app_.cSound.CloseGame();
+    }
+  } else {
+    return Usage("unknown command \"" + cmd + "\"");
+  }
+  return {};
+}
+
+CommandError ScriptRunner::Journal(const std::string& cmd, const std::vector<std::string>& w) {
+  auto& engine = app_.cEngine;
+  const bool onTable = app_.cGamePlay.Game_Status() > 0;
+  if (cmd == "moveto") {
+    int n = 0;
+    if (w.size() != 2 || !ToInt(w[1], n)) return Usage("moveto takes a journal position");
+    if (onTable && engine.MoveStarted()) engine.MoveTo(n);
+    return {};
+  }
+  if (w.size() != 1) return Usage(cmd + " takes no arguments");
+  const bool back = cmd == "undo" || cmd == "undoall";
+  if (!onTable || !(back ? engine.UndoPossible() : engine.RedoPossible())) return {};
+  const bool all = cmd.ends_with("all");
+  int speed = app_.cRegistry.Get(all ? setting::UndoallSpeed : setting::UndoSpeed);
+  if (cmd == "undo") engine.Undo(speed);
+  else if (cmd == "redo") engine.Redo(speed);
+  else if (cmd == "undoall") engine.UndoAll(speed);
+  else engine.RedoAll(speed);
+  return {};
+}
+
+namespace {
+
+// The card a pointer can press at a place, or why there is none.
+CommandError CardAt(const Program& app, const std::vector<std::string>& w, int& pic) {
+  int cell = 0, pile = 0, pos = 0;
+  if (!ToInt(w[1], cell) || !ToInt(w[2], pile) || !ToInt(w[3], pos)) return Usage("a place is CELL PILE POS");
+  const bool known = cell == 0 || cell == 1 || cell == 3;
+  if (!app.cPlay.table().Exists() || !known || pile < 0 || pile >= app.cGames.Piles(cell) || pos < 0 ||
+      pos > app.cPlay.GetTop(cell, pile))
+    return Usage("no card lies at " + w[1] + " " + w[2] + " " + w[3]);
+  if (cell != 0 && pos != app.cPlay.GetTop(cell, pile))
+    return Usage("the pointer cannot reach the card at " + w[1] + " " + w[2] + " " + w[3]);
+  pic = app.cPlay.GetPicID(cell, pile, pos);
+  return {};
+}
+
+}  // namespace
+
+CommandError ScriptRunner::Drag(const std::vector<std::string>& w, bool toPile) {
+  if (w.size() != (toPile ? 5u : 6u))
+    return Usage(toPile ? "drag takes CELL PILE POS TO_PILE" : "dragxy takes CELL PILE POS X Y");
+  int pic = 0;
+  if (auto e = CardAt(app_, w, pic); e.status != kOk) return e;
+  double x = 0, y = 0;
+  if (toPile) {
+    int to = 0;
+    if (!ToInt(w[4], to) || to < 0 || to >= app_.cGames.Piles(0)) return Usage("no tableau pile " + w[4]);
+    // Aim the card's centre at the pile's top card, or at its marker when it is empty.
+    const int top = std::max(app_.cPlay.GetTop(0, to), 0);
+    x = app_.cGames.GetCordX(0, to, top);
+    y = app_.cGames.GetCordY(0, to, top);
+  } else {
+    int ix = 0, iy = 0;
+    if (!ToInt(w[4], ix) || !ToInt(w[5], iy)) return Usage("X and Y are whole twips");
+    x = ix, y = iy;
+  }
+  auto& sprites = app_.surface.sprites;
+  PointerPressed(app_, pic, kGripX, kGripY);
+  const double left = sprites.Left(Sprites::PicCD, pic), top = sprites.Top(Sprites::PicCD, pic);
+  PointerMoved(app_, pic, kGripX + x - left, kGripY + y - top);
+  PointerReleased(app_, pic);
+  return {};
+}
+
+CommandError ScriptRunner::DoubleClick(const std::vector<std::string>& w) {
+  if (w.size() != 4) return Usage("dblclick takes CELL PILE POS");
+  int pic = 0;
+  if (auto e = CardAt(app_, w, pic); e.status != kOk) return e;
+  PointerPressed(app_, pic, kGripX, kGripY);
+  PointerReleased(app_, pic);
+  PointerDoubleClicked(app_, pic);
+  return {};
+}
+
+CommandError ScriptRunner::Stock() {
+  if (!app_.cPlay.table().Exists() || app_.cPlay.GetTop(1, 0) < 0) return {};
+  const int pic = app_.cPlay.GetTopPicID(1, 0);
+  PointerPressed(app_, pic, kGripX, kGripY);
+  PointerReleased(app_, pic);
+  return {};
+}
+
+}  // namespace qv

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+namespace qv {
+
+class Program;
+
+// The table and the session as one JSON object, the shape every command prints.
+std::string StateJson(const Program& app);
+
+}  // namespace qv

@@ -1,0 +1,38 @@
+#include "engine/Pointer.h"
+
+#include "engine/Numeric.h"
+#include "session/Program.h"
+
+namespace qv {
+
+void PointerPressed(Program& app, int i, double x, double y) {
+  if (!app.cGamePlay.Game_Running()) return;
+  if (app.cGamePlay.PauseStatus()) app.cGamePlay.PauseGame(false);
+  if (!app.surface.window.TimerEnabled(Timer::Game)) app.surface.window.EnableTimer(Timer::Game, true);
+  auto& d = app.drag;
+  if (d.Dragging) return;
+  d.DragCount = 0;
+  d.DownX = Saturate16(RoundHalfEven(x));
+  d.DownY = Saturate16(RoundHalfEven(y));
+  d.StartLeft = Saturate16(RoundHalfEven(app.surface.sprites.Left(Sprites::PicCD, i)));
+  d.StartTop = Saturate16(RoundHalfEven(app.surface.sprites.Top(Sprites::PicCD, i)));
+  app.cPlay.MouseDown(i, app.cPlay.Cell(i), app.cPlay.Pile(i), app.cPlay.Pos(i));
+  app.surface.sprites.Yield();
+}
+
+void PointerMoved(Program& app, int i, double x, double y) {
+  if (!app.cGamePlay.Game_Running() || !app.drag.Dragging) return;
+  app.cPlay.MouseMove(i, app.cPlay.Pile(i), app.cPlay.Pos(i), x, y);
+}
+
+void PointerReleased(Program& app, int i) {
+  if (!app.cGamePlay.Game_Running() || !app.drag.Dragging) return;
+  app.drag.Dragging = false;
+  app.cPlay.MouseUp(i, app.cPlay.Cell(i), app.cPlay.Pile(i), app.cPlay.Pos(i));
+  // The sound plays for a refused drop too.
+  app.cSound.MoveCard();
+}
+
+void PointerDoubleClicked(Program& app, int i) { app.cPlay.DoubleClick(i); }
+
+}  // namespace qv

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+
+namespace qv {
+
+class Program;
+
+// The short state of a drag, shared by the window's pointer handlers and cPlay. Twips.
+struct DragState {
+  int16_t DownX = 0;      // pointer at the press, in the pressed sprite's frame
+  int16_t StartLeft = 0;  // the pressed sprite's place at the press
+  int16_t DownY = 0;
+  int16_t StartTop = 0;
+  int16_t DragCount = 0;  // cards riding above the pressed one; 0 for a single card
+  bool Dragging = false;  // something hangs on the pointer
+};
+
+// The window's pointer events on card sprite i, with x and y in the sprite's frame.
+// Both front ends call these, so a drag behaves the same in the window and in scripts.
+void PointerPressed(Program& app, int i, double x, double y);
+void PointerMoved(Program& app, int i, double x, double y);
+void PointerReleased(Program& app, int i);
+void PointerDoubleClicked(Program& app, int i);
+
+}  // namespace qv

@@ -1,0 +1,26 @@
+#include "session/Program.h"
+
+#include <chrono>
+
+namespace qv {
+
+Program::Program(Surface s, ISettingsStore& st, PlatformFolders f)
+    : surface(s),
+      folders(std::move(f)),
+      store(st),
+      cData(*this),
+      cGames(*this),
+      cEngine(*this),
+      cRegistry(st),
+      cGamePlay(*this),
+      cCustom(*this),
+      cPlay(*this),
+      rng(static_cast<uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count())) {
+  FillProductData(cData);
+}
+
+Answer Program::MsgBox(const std::string& text, MsgStyle style) {
+  return surface.dialogs.MsgBox(text, style, cData.ProdName());
+}
+
+}  // namespace qv

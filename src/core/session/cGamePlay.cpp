@@ -1,0 +1,207 @@
+#include "session/cGamePlay.h"
+
+#include "engine/Numeric.h"
+#include "engine/mStudio.h"
+#include "lists/AutoSave.h"
+#include "lists/GameNumbers.h"
+#include "lists/Pending.h"
+#include "scores/Players.h"
+#include "scores/ScoreText.h"
+#include "session/Program.h"
+#include "session/SavedGameCheck.h"
+#include "session/SavedGameFile.h"
+
+namespace qv {
+
+namespace {
+constexpr const char* kDefaultGame = "Spider";
+}
+
+bool cGamePlay::Dealable(const std::string& name) const {
+  // A name in no list deals only with the rule fields a saved game's header gave for it.
+  return app_.cData.GameExists(name) || app_.cCustom.HoldsHeaderFor(name);
+}
+
+bool cGamePlay::StartGame(const std::string& cGameName, const qv::GameNo& cGameNo, int cLoadType, int32_t cTime,
+                          int16_t cScore, int16_t cRedealsComp) {
+  if (!Dealable(cGameName)) {
+    app_.MsgBox("The game \"" + cGameName + "\" is not in the list of games, so it cannot be dealt.", MsgStyle::Stop);
+    return false;
+  }
+  if (status_ == 1 && !EndGame(0, false)) return false;
+  if (status_ == 2) ClearArea();
+  pauseStatus_ = false;
+  loadingType_ = cLoadType;
+  // The background picker joins with the backgrounds; WPTimerValue 4 asks for it here.
+  gameName_ = cGameName;
+  gameNo_ = cGameNo;
+  startTime_ = GeneralDate(app_.surface.clock.Now());
+  redealsComp_ = cRedealsComp;
+  time_ = cTime;
+  storedScore_ = cScore;
+  app_.cCustom.Init(cGameName);
+  SetupGame(app_.cCustom, app_.cGames);
+  app_.cPlay.Init(gameNo_);
+  if (cLoadType == kNewDeal) {
+    app_.cEngine.ClearTRANS();
+  } else if (cLoadType == kFinishedFile) {
+    status_ = 2;
+    app_.surface.window.EnableTimer(Timer::Forward, true);
+  } else {
+    // Running is still false, so the end-of-game check keeps quiet while the table is rebuilt.
+    int speed = 0;
+    app_.cEngine.RedoAll(speed);
+  }
+  if (cLoadType != kFinishedFile) {
+    app_.cFunc.AddRecent(0, gameName_ + " - " + gameNo_.Text());
+    running_ = true;
+    app_.surface.window.EnableTimer(Timer::Game, true);
+    LastGName(gameName_);
+    status_ = 1;
+  }
+  return true;
+}
+
+bool cGamePlay::PlayRandom(const std::optional<std::string>& gName) {
+  std::string name = gName.value_or(LastGName());
+  // A first run with no game played yet has no last game: deal the family's first.
+  if (name.empty()) name = kDefaultGame;
+  return StartGame(name, RandomGameNo(app_), 0, 0, 0, 0);
+}
+
+bool cGamePlay::PlayString(const std::string& s) {
+  // Split at the last " - ", so a game whose name holds a "-" still plays from the list.
+  const auto cut = s.rfind(" - ");
+  if (cut == std::string::npos || cut == 0) return false;
+  const std::string number = s.substr(cut + 3);
+  if (!qv::GameNo::IsDigitText(number)) return false;
+  return StartGame(s.substr(0, cut), qv::GameNo::Typed(number), 0, 0, 0, 0);
+}
+
+std::optional<SavedGame> cGamePlay::ReadPlayable(const std::string& fName) {
+  ParsedGame parsed = ReadSavedGame(fName);
+  std::string why = parsed.game ? CheckSavedGame(app_, *parsed.game) : parsed.error;
+  if (why.empty()) return std::move(parsed.game);
+  app_.MsgBox("The saved game \"" + fName + "\" cannot be played: " + why + ".", MsgStyle::Stop);
+  return std::nullopt;
+}
+
+bool cGamePlay::PlayFile(const std::string& fName, bool bRecent) {
+  auto game = ReadPlayable(fName);
+  if (!game) return false;
+  if (status_ == 1 && !EndGame(0, false)) return false;
+  app_.cEngine.LoadRecords(game->records);
+  const GameHeader& h = game->header;
+  if (bRecent) app_.cFunc.AddRecent(2, fName);
+  const int loadType = IsFinishedFileName(fName, app_.cData.FinExt()) ? kFinishedFile : kIncompleteFile;
+  app_.cCustom.LoadGameFile(h);
+  return StartGame(h.GameName, h.GameNo, loadType, h.Time, h.Score, 0);
+}
+
+bool cGamePlay::PlayPendFile(const std::string& fName) {
+  auto game = ReadPlayable(fName);
+  if (!game) return false;
+  if (status_ == 1 && !EndGame(0, false)) return false;
+  if (status_ == 2) ClearArea();
+  pendFile_ = fName;
+  app_.cEngine.LoadRecords(game->records);
+  app_.cCustom.LoadGameFile(game->header);
+  // From here the game lives in memory until it ends or is won; a failed delete is ignored.
+  app_.cFileSys.Delete(fName);
+  return StartGame(game->header.GameName, game->header.GameNo, kPendingGame, game->header.Time,
+                   game->header.Score, 0);
+}
+
+bool cGamePlay::EndGame(int Win, bool bTerminate) {
+  if (loadingType_ != kPendingGame) {
+    app_.cScore.AddScore(0);
+    if (!bTerminate) app_.cScore.AddSesGame(Win);
+    AutoSaveGame(app_, false);
+  } else if (!SavePendingFile(app_, pendFile_)) {
+    return false;
+  }
+  if (!bTerminate) ClearArea();
+  return true;
+}
+
+void cGamePlay::ClearArea() {
+  app_.surface.window.EnableTimer(Timer::Game, false);
+  running_ = false;
+  status_ = 0;
+  pendFile_.clear();
+  app_.cPlay.ClearAll();
+}
+
+void cGamePlay::Unload() {
+  app_.cRegistry.Set(setting::UnFin, 0);
+  if (status_ != 1) return;
+  if (loadingType_ == kPendingGame) {
+    EndGame(0, true);
+  } else if (app_.cRegistry.Get(setting::GameSave) == 1) {
+    // The game counts as waiting only once its file is there whole.
+    std::string error;
+    if (app_.cEngine.SavetoFile(app_.cData.UnFinFile(), &error)) app_.cRegistry.Set(setting::UnFin, 1);
+    else app_.MsgBox("The unfinished game could not be kept for the next start: " + error + ".", MsgStyle::Stop);
+  } else {
+    EndGame(0, true);
+  }
+}
+
+void cGamePlay::PauseGame(bool mPause) {
+  pauseStatus_ = mPause;
+  app_.surface.window.EnableTimer(Timer::Game, !mPause);
+  app_.surface.window.ShowPaused(mPause);
+}
+
+std::string cGamePlay::TimeString() const { return FormatSeconds(time_); }
+
+int16_t cGamePlay::Moves() const { return Saturate16(app_.cEngine.GetTransID()); }
+
+int16_t cGamePlay::Score() const {
+  if (!running_) return storedScore_;
+  const double G = app_.cEngine.TotalGoalCards();
+  return Saturate16(RoundHalfEven(10 * G - (time_ / 3.0 + Moves() / 2.0)));
+}
+
+int16_t cGamePlay::Percentage() const {
+  const int total = app_.cGames.TotalCards();
+  if (total <= 0) return 0;
+  return Saturate16(RoundHalfEven(100.0 * app_.cEngine.TotalGoalCards() / total));
+}
+
+int16_t cGamePlay::CardsLeft() const {
+  return Saturate16(app_.cGames.TotalCards() - app_.cEngine.TotalGoalCards());
+}
+
+std::string cGamePlay::Title() const {
+  std::string title = app_.cData.ProdName();
+  if (status_ == 0) return title;
+  const auto& reg = app_.cRegistry;
+  title += " [" + gameName_ + " - " + gameNo_.Text() + "] [" + GetCurPlayer(reg) + "]";
+  std::string readouts;
+  auto add = [&readouts](const std::string& r) { readouts += (readouts.empty() ? "" : " ") + r; };
+  if (reg.Get(setting::ShowTime) == 1) add("Time:" + TimeString());
+  if (reg.Get(setting::ShowScore) == 1) add("Score:" + std::to_string(Score()));
+  if (reg.Get(setting::ShowMoves) == 1) add("Moves:" + std::to_string(Moves()));
+  if (reg.Get(setting::ShowCardsLeft) == 1) add("Cards Left:" + std::to_string(CardsLeft()));
+  if (!readouts.empty()) title += " [" + readouts + "]";
+  if (loadingType_ == kPendingGame) title += " [Pending List Game]";
+  if (loadingType_ == kFinishedFile) title += " [Finished Game]";
+  if (pauseStatus_) title += " [Game Paused]";
+  return title;
+}
+
+void cGamePlay::Update_Title() { app_.surface.window.SetTitle(Title()); }
+
+std::string cGamePlay::LastGName() const { return app_.cRegistry.Get(setting::LastGName); }
+void cGamePlay::LastGName(const std::string& name) { app_.cRegistry.Set(setting::LastGName, name); }
+
+void cGamePlay::TickGame() {
+  if (running_ && !pauseStatus_) time_ = Saturate32(static_cast<long long>(time_) + 1);
+}
+
+void cGamePlay::CheckEndOfGame() {
+  if (app_.cEngine.TotalGoalCards() == app_.cGames.TotalCards()) app_.surface.window.ShowFinish();
+}
+
+}  // namespace qv

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+
+namespace qv {
+
+enum class Timer { Main, Time, Game, Forward, Backward, WallPaper };
+
+// What the game session needs of the main window besides its sprites.
+class IWindow {
+ public:
+  virtual ~IWindow() = default;
+  virtual void SetTitle(const std::string& title) = 0;
+  virtual void EnableTimer(Timer t, bool on) = 0;
+  virtual bool TimerEnabled(Timer t) const = 0;
+  // The Pause button pressed or raised, and the check mark of "Pause Game".
+  virtual void ShowPaused(bool paused) = 0;
+  // All cards are on the foundations: the finish dialog opens here, blocking.
+  virtual void ShowFinish() = 0;
+};
+
+}  // namespace qv

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace qv {
+
+// What a sprite shows. The core names pictures; the desktop paints them, and the
+// recording surface keeps the name so a test can see what a user would see.
+struct Picture {
+  enum Kind : int8_t { None, Face, Back, Marker };
+  Kind kind = None;
+  int16_t number = 0;
+
+  bool operator==(const Picture&) const = default;
+  std::string Name() const {
+    switch (kind) {
+      case Face: return "face " + std::to_string(number);
+      case Back: return "back " + std::to_string(number);
+      case Marker: return "marker " + std::to_string(number);
+      case None: break;
+    }
+    return "none";
+  }
+};
+
+}  // namespace qv

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "surface/IWindow.h"
+
+namespace qv {
+
+// A main window that remembers what it was told: its title, its timers, the pause mark.
+class RecordingWindow : public IWindow {
+ public:
+  void SetTitle(const std::string& t) override { title = t; }
+  void EnableTimer(Timer t, bool on) override { timers[static_cast<int>(t)] = on; }
+  bool TimerEnabled(Timer t) const override { return timers[static_cast<int>(t)]; }
+  void ShowPaused(bool p) override { pausedShown = p; }
+  void ShowFinish() override { ++finishShown; }
+
+  std::string title;
+  std::array<bool, 6> timers{true, true, false, false, false, false};
+  bool pausedShown = false;
+  int finishShown = 0;
+};
+
+}  // namespace qv

@@ -1,0 +1,17 @@
+#pragma once
+
+namespace qv {
+
+// Sound events. They are silent until the program's sounds are built; the table and
+// the session already call them at the moments they belong to.
+class cSound {
+ public:
+  void StartGame() {}
+  void MoveCard() {}
+  void Undo() {}
+  void Redo() {}
+  void PauseGame() {}
+  void CloseGame() {}
+};
+
+}  // namespace qv

@@ -1,0 +1,53 @@
+#include "TestProgram.h"
+
+#include <atomic>
+#include <fstream>
+#include <sstream>
+#include <unistd.h>
+
+namespace qv::test {
+
+Answer ScriptedDialogs::MsgBox(const std::string& text, MsgStyle style, const std::string& title) {
+  shown.push_back(text);
+  titles.push_back(title);
+  const bool question = style == MsgStyle::YesNoStop || style == MsgStyle::YesNoQuestion;
+  if (!question) return Answer::Ok;
+  if (answers.empty()) return Answer::No;
+  const Answer a = answers.front();
+  answers.pop_front();
+  return a;
+}
+
+TempHome::TempHome() {
+  static std::atomic<int> counter{0};
+  path_ = std::filesystem::temp_directory_path() /
+          ("quorvale-test-" + std::to_string(getpid()) + "-" + std::to_string(counter++));
+  std::filesystem::remove_all(path_);
+  std::filesystem::create_directories(path_);
+}
+
+TempHome::~TempHome() {
+  std::error_code ec;
+  std::filesystem::remove_all(path_, ec);
+}
+
+TestProgram::TestProgram() {
+  PlatformFolders folders{home.Path() / "data", home.Path() / "Documents", home.Path() / "bin"};
+  app = std::make_unique<Program>(Surface{sprites, window, dialogs, clock}, settings, folders);
+}
+
+void TestProgram::Deal(const std::string& game, uint64_t number) { app->cGamePlay.PlayNumber(game, GameNo::Number(number)); }
+
+void WriteFile(const std::string& path, const std::string& text) {
+  std::ofstream f(path, std::ios::binary);
+  f << text;
+}
+
+std::string ReadFile(const std::string& path) {
+  std::ifstream f(path, std::ios::binary);
+  std::stringstream s;
+  s << f.rdbuf();
+  return s.str();
+}
+
+}  // namespace qv::test

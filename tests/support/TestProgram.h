@@ -1,0 +1,67 @@
+#pragma once
+
+#include <deque>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "session/Program.h"
+#include "settings/MemorySettingsStore.h"
+#include "surface/RecordingSprites.h"
+#include "surface/RecordingWindow.h"
+
+namespace qv::test {
+
+// Message boxes answered from a queue ("the next question gets Yes"); No when it is empty.
+class ScriptedDialogs : public IDialogs {
+ public:
+  Answer MsgBox(const std::string& text, MsgStyle style, const std::string& title) override;
+  std::deque<Answer> answers;
+  std::vector<std::string> shown;
+  std::vector<std::string> titles;
+};
+
+class FakeClock : public IClock {
+ public:
+  std::time_t Now() const override { return now; }
+  std::time_t now = 1795000000;
+};
+
+// A folder of its own under the system's temporary folder, removed at the end.
+class TempHome {
+ public:
+  TempHome();
+  ~TempHome();
+  TempHome(const TempHome&) = delete;
+  TempHome& operator=(const TempHome&) = delete;
+  const std::filesystem::path& Path() const { return path_; }
+  std::string File(const std::string& name) const { return (path_ / name).string(); }
+
+ private:
+  std::filesystem::path path_;
+};
+
+// A whole program for a test: recording surface, scripted dialogs, fake clock, memory
+// settings and a temporary home. Nothing touches the real home folder.
+struct TestProgram {
+  TestProgram();
+  TempHome home;
+  MemorySettingsStore settings;
+  RecordingSprites sprites;
+  RecordingWindow window;
+  ScriptedDialogs dialogs;
+  FakeClock clock;
+  std::unique_ptr<Program> app;
+
+  Program& operator*() { return *app; }
+  Program* operator->() { return app.get(); }
+  // Deals a game as New Game does with a chosen number.
+  void Deal(const std::string& game, uint64_t number);
+};
+
+// Writes text to a file, for fixtures.
+void WriteFile(const std::string& path, const std::string& text);
+std::string ReadFile(const std::string& path);
+
+}  // namespace qv::test
