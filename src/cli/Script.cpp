@@ -13,10 +13,6 @@ namespace qv {
 
 namespace {
 
-// Where the pointer takes hold of a card: inside the strip of it that shows on a pile.
-constexpr double kGripX = 500;
-constexpr double kGripY = 30;
-
 bool ToInt(const std::string& s, int& out) {
   const char* last = s.data() + s.size();
   auto [p, ec] = std::from_chars(s.data(), last, out);
@@ -211,24 +207,15 @@ CommandError ScriptRunner::Drag(const std::vector<std::string>& w, bool toPile) 
     return Usage(toPile ? "drag takes CELL PILE POS TO_PILE" : "dragxy takes CELL PILE POS X Y");
   int pic = 0;
   if (auto e = CardAt(app_, w, pic); e.status != kOk) return e;
-  double x = 0, y = 0;
   if (toPile) {
     int to = 0;
     if (!ToInt(w[4], to) || to < 0 || to >= app_.cGames.Piles(0)) return Usage("no tableau pile " + w[4]);
-    // Aim the card's centre at the pile's top card, or at its marker when it is empty.
-    const int top = std::max(app_.cPlay.GetTop(0, to), 0);
-    x = app_.cGames.GetCordX(0, to, top);
-    y = app_.cGames.GetCordY(0, to, top);
-  } else {
-    int ix = 0, iy = 0;
-    if (!ToInt(w[4], ix) || !ToInt(w[5], iy)) return Usage("X and Y are whole twips");
-    x = ix, y = iy;
+    DragCardToPile(app_, pic, to);
+    return {};
   }
-  auto& sprites = app_.surface.sprites;
-  PointerPressed(app_, pic, kGripX, kGripY);
-  const double left = sprites.Left(Sprites::PicCD, pic), top = sprites.Top(Sprites::PicCD, pic);
-  PointerMoved(app_, pic, kGripX + x - left, kGripY + y - top);
-  PointerReleased(app_, pic);
+  int x = 0, y = 0;
+  if (!ToInt(w[4], x) || !ToInt(w[5], y)) return Usage("X and Y are whole twips");
+  DragCardTo(app_, pic, x, y);
   return {};
 }
 
@@ -236,17 +223,12 @@ CommandError ScriptRunner::DoubleClick(const std::vector<std::string>& w) {
   if (w.size() != 4) return Usage("dblclick takes CELL PILE POS");
   int pic = 0;
   if (auto e = CardAt(app_, w, pic); e.status != kOk) return e;
-  PointerPressed(app_, pic, kGripX, kGripY);
-  PointerReleased(app_, pic);
-  PointerDoubleClicked(app_, pic);
+  DoubleClickCard(app_, pic);
   return {};
 }
 
 CommandError ScriptRunner::Stock() {
-  if (!app_.cPlay.table().Exists() || app_.cPlay.GetTop(1, 0) < 0) return {};
-  const int pic = app_.cPlay.GetTopPicID(1, 0);
-  PointerPressed(app_, pic, kGripX, kGripY);
-  PointerReleased(app_, pic);
+  if (app_.cPlay.table().Exists() && app_.cPlay.GetTop(1, 0) >= 0) ClickCard(app_, app_.cPlay.GetTopPicID(1, 0));
   return {};
 }
 

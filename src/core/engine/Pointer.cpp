@@ -1,5 +1,7 @@
 #include "engine/Pointer.h"
 
+#include <algorithm>
+
 #include "engine/Numeric.h"
 #include "session/Program.h"
 
@@ -34,5 +36,33 @@ void PointerReleased(Program& app, int i) {
 }
 
 void PointerDoubleClicked(Program& app, int i) { app.cPlay.DoubleClick(i); }
+
+namespace {
+constexpr double kGripX = 500;
+constexpr double kGripY = 30;
+}  // namespace
+
+void DragCardTo(Program& app, int i, double x, double y) {
+  PointerPressed(app, i, kGripX, kGripY);
+  const auto& sprites = app.surface.sprites;
+  const double left = sprites.Left(Sprites::PicCD, i), top = sprites.Top(Sprites::PicCD, i);
+  PointerMoved(app, i, kGripX + x - left, kGripY + y - top);
+  PointerReleased(app, i);
+}
+
+void DragCardToPile(Program& app, int i, int pile) {
+  const int top = std::max(app.cPlay.GetTop(0, pile), 0);
+  DragCardTo(app, i, app.cGames.GetCordX(0, pile, top), app.cGames.GetCordY(0, pile, top));
+}
+
+void ClickCard(Program& app, int i) {
+  PointerPressed(app, i, kGripX, kGripY);
+  PointerReleased(app, i);
+}
+
+void DoubleClickCard(Program& app, int i) {
+  ClickCard(app, i);
+  PointerDoubleClicked(app, i);
+}
 
 }  // namespace qv

@@ -23,4 +23,16 @@ void PointerMoved(Program& app, int i, double x, double y);
 void PointerReleased(Program& app, int i);
 void PointerDoubleClicked(Program& app, int i);
 
+// Whole gestures, for front ends and tests that have no mouse. The pointer takes hold
+// of card i inside the strip of it that shows on a pile.
+// Drags card i so that its left and top come to x, y, and lets go.
+void DragCardTo(Program& app, int i, double x, double y);
+// Drags card i so that it lies over the top card of tableau pile `pile`, or over its
+// marker when the pile is empty, and lets go.
+void DragCardToPile(Program& app, int i, int pile);
+// A press and a release without moving.
+void ClickCard(Program& app, int i);
+// What a double-click brings: a press, a release and the double-click.
+void DoubleClickCard(Program& app, int i);
+
 }  // namespace qv
