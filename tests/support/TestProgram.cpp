@@ -5,6 +5,9 @@
 #include <sstream>
 #include <unistd.h>
 
+#include "engine/Pointer.h"
+#include "session/SavedGameFile.h"
+
 namespace qv::test {
 
 Answer ScriptedDialogs::MsgBox(const std::string& text, MsgStyle style, const std::string& title) {
@@ -37,6 +40,21 @@ TestProgram::TestProgram() {
 }
 
 void TestProgram::Deal(const std::string& game, uint64_t number) { app->cGamePlay.PlayNumber(game, GameNo::Number(number)); }
+
+void PlayWithRules(TestProgram& t, const Rules& r, uint64_t number) {
+  GameHeader h;
+  h.GameName = "Test Rules";
+  h.GameNo = GameNo::Number(number);
+  h.HPiles = r.HPiles, h.HOrder = r.HOrder, h.HSpace = r.HSpace, h.HAK = r.HAK, h.HMulti = r.HMulti;
+  h.Suits = r.Suits, h.MOrder = r.MOrder;
+  const std::string path = t.home.File("rules.vq0");
+  WriteFile(path, FormatSavedGame(h, {}));
+  t->cGamePlay.PlayFile(path, false);
+}
+
+void DealRows(TestProgram& t, int n) {
+  for (int i = 0; i < n && t->cPlay.GetTop(1, 0) >= 0; ++i) ClickCard(*t.app, t->cPlay.GetTopPicID(1, 0));
+}
 
 void WriteFile(const std::string& path, const std::string& text) {
   std::ofstream f(path, std::ios::binary);

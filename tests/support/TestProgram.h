@@ -60,6 +60,16 @@ struct TestProgram {
   void Deal(const std::string& game, uint64_t number);
 };
 
+// The seven fields that decide a table; Spider's by default.
+struct Rules {
+  int16_t HPiles = 10, HOrder = 4, HSpace = 13, HAK = 0, HMulti = 1, Suits = 2, MOrder = 0;
+};
+// Plays a deal with the given rules, as a saved game with no moves brings them for a
+// name the program does not know.
+void PlayWithRules(TestProgram& t, const Rules& rules, uint64_t number = 1);
+// Presses the Stock n times.
+void DealRows(TestProgram& t, int n);
+
 // Writes text to a file, for fixtures.
 void WriteFile(const std::string& path, const std::string& text);
 std::string ReadFile(const std::string& path);

@@ -1,0 +1,205 @@
+#include <gtest/gtest.h>
+
+#include "TestProgram.h"
+#include "engine/Rules.h"
+#include "engine/Table.h"
+#include "engine/cCustom.h"
+#include "engine/cGames.h"
+#include "engine/mStudio.h"
+
+namespace qv {
+namespace {
+
+// A card wanted on the table: rank (0 Ace .. 12 King), suit, face.
+struct Want {
+  int num, suit;
+  bool up = true;
+};
+
+// A table of a game's definition with the wanted cards on tableau piles, bottom up, and
+// every other card in the Stock.
+class Arranged {
+ public:
+  Arranged(const test::Rules& r, const std::vector<std::vector<Want>>& piles) : t_(), custom_(*t_.app) {
+    custom_.Home(r.HPiles, r.HOrder, r.HSpace, r.HAK, r.HMulti, r.Suits, r.MOrder);
+    SetupGame(custom_, games);
+    table.Make(games, GameNo::Number(1));
+    std::vector<bool> used(104);
+    for (size_t p = 0; p < piles.size(); ++p)
+      for (size_t q = 0; q < piles[p].size(); ++q) {
+        const Want& w = piles[p][q];
+        const int pic = Find(w, used);
+        ids.push_back(pic);
+        table.UpdatePlace(pic, 0, static_cast<int>(p), static_cast<int>(q), w.up, false);
+      }
+    for (int pic = 0, pos = 0; pic < 104; ++pic)
+      if (!used[pic]) table.UpdatePlace(pic, 1, 0, pos++, false, false);
+  }
+  int Top(int pile) const { return table.GetTopPicID(0, pile); }
+  int At(int pile, int pos) const { return table.GetPicID(0, pile, pos); }
+
+  test::TestProgram t_;
+  cCustom custom_;
+  cGames games;
+  Table table;
+  std::vector<int> ids;
+
+ private:
+  int Find(const Want& w, std::vector<bool>& used) const {
+    for (int pic = 0; pic < 104; ++pic)
+      if (!used[pic] && table.Card(pic).Num == w.num && table.Card(pic).Suit == w.suit) return used[pic] = true, pic;
+    ADD_FAILURE() << "no card " << w.num << "/" << w.suit;
+    return 0;
+  }
+};
+
+// Suits 0 and 2 are one colour, 1 and 3 the other.
+TEST(Rules, CheckNumRanksAndRelations) {
+  Arranged a({}, {{{7, 0}, {6, 0}, {6, 1}, {6, 2}, {8, 3}, {0, 0}, {12, 1}}});
+  const Table& t = a.table;
+  const int eight = a.At(0, 0), sevenSame = a.At(0, 1), sevenOther = a.At(0, 2), sevenSameColor = a.At(0, 3),
+            nine = a.At(0, 4), ace = a.At(0, 5), king = a.At(0, 6);
+  EXPECT_TRUE(t.CheckNum(eight, sevenSame, -1, 1, false));
+  EXPECT_FALSE(t.CheckNum(eight, sevenOther, -1, 1, false));
+  EXPECT_TRUE(t.CheckNum(eight, sevenOther, -1, 2, false));
+  EXPECT_FALSE(t.CheckNum(eight, sevenSameColor, -1, 2, false));
+  EXPECT_TRUE(t.CheckNum(eight, sevenSameColor, -1, 5, false));
+  EXPECT_TRUE(t.CheckNum(eight, sevenOther, -1, 4, false));
+  EXPECT_FALSE(t.CheckNum(eight, sevenSame, -1, 4, false));
+  EXPECT_TRUE(t.CheckNum(eight, sevenSame, -1, 99, false));
+  EXPECT_FALSE(t.CheckNum(eight, nine, -1, 3, false));
+  EXPECT_TRUE(t.CheckNum(eight, nine, 1, 3, false));
+  EXPECT_TRUE(t.CheckNum(eight, nine, 0, 3, false));
+  EXPECT_FALSE(t.CheckNum(eight, nine, 2, 3, false));
+  // Ace-King wrap only when asked for.
+  EXPECT_FALSE(t.CheckNum(ace, king, -1, 3, false));
+  EXPECT_TRUE(t.CheckNum(ace, king, -1, 3, true));
+  EXPECT_TRUE(t.CheckNum(king, ace, 1, 3, true));
+  EXPECT_TRUE(CheckOrder(t, ace, eight, 5, false));
+  EXPECT_FALSE(CheckOrder(t, eight, nine, 4, false));
+}
+
+TEST(Rules, NamesOfCodes) {
+  EXPECT_EQ(GetOrderName(0), "Down Same Suit");
+  EXPECT_EQ(GetOrderName(4), "Down Regardless of Suit");
+  EXPECT_EQ(GetOrderName(5), "Any Card");
+  EXPECT_EQ(GetOrderName(6), "");
+  EXPECT_EQ(GetSpaceName(12), "King");
+  EXPECT_EQ(GetSpaceName(13), "Any Card");
+  EXPECT_EQ(GetSuitName(2), "Four");
+  EXPECT_EQ(GetBoolName(1), "True");
+  EXPECT_EQ(GetBoolName(-1), "");
+}
+
+TEST(Rules, StandardGamesAndTheirGroupOrder) {
+  test::TestProgram t;
+  const std::pair<const char*, int> expected[] = {{"Spider", 4}, {"Spider Single Suit", 4}, {"Spider Two Suit", 4},
+                                                 {"Scarab", 4},  {"Plaza", 1},              {"Coral", 2},
+                                                 {"Spider Plus", 3}};
+  for (auto [name, multiOrder] : expected) {
+    cCustom c(*t.app);
+    ASSERT_TRUE(SetStdGame(c, name));
+    cGames g;
+    SetupGame(c, g);
+    EXPECT_EQ(g.MultiOrder(), multiOrder) << name;
+    EXPECT_EQ(g.Order(0, 0), 4);
+    EXPECT_EQ(g.EmptyNum(), 13);
+    EXPECT_EQ(g.Piles(0), 10);
+    EXPECT_EQ(g.Piles(3), 8);
+    EXPECT_EQ(g.TotalCards(), 104);
+    EXPECT_EQ(g.BaseX(), 11550);
+    EXPECT_TRUE(g.MultiMove());
+  }
+  cCustom c(*t.app);
+  SetStdGame(c, "Plaza");
+  EXPECT_FALSE(SetStdGame(c, "spider"));
+  EXPECT_EQ(c.GameName, "Plaza");
+  EXPECT_EQ(c.MOrder, 1);
+}
+
+TEST(Rules, TableauStartCentresFewerPiles) {
+  test::TestProgram t;
+  const std::pair<int, int> startX[] = {{10, 0}, {9, 582}, {8, 1165}, {7, 1748}, {6, 2330}};
+  for (auto [piles, x] : startX) {
+    cCustom c(*t.app);
+    c.Home(static_cast<int16_t>(piles), 4, 13, 0, 1, 2, 0);
+    cGames g;
+    SetupGame(c, g);
+    EXPECT_EQ(g.Area(0).StartX, x) << piles;
+    EXPECT_EQ(g.CardsOpen(), piles);
+    EXPECT_EQ(g.Area(1).StartX, 532);
+    EXPECT_EQ(g.Area(3).StartX, 2130);
+  }
+}
+
+TEST(Rules, GroupsFollowTheGroupOrder) {
+  // Suits 0 and 2 share a colour, 1 and 3 the other.
+  const std::vector<Want> mixed{{7, 0}, {6, 2}, {5, 1}};
+  const std::vector<Want> alternating{{7, 0}, {6, 1}, {5, 2}};
+  const std::vector<Want> sameSuit{{7, 3}, {6, 3}, {5, 3}};
+  auto group = [](const test::Rules& r, const std::vector<Want>& cards) {
+    Arranged a(r, {cards});
+    return IsSequence(a.table, a.games, a.At(0, 0), 2);
+  };
+  const test::Rules spider{}, plaza{.MOrder = 1}, coral{.MOrder = 2}, plus{.MOrder = 3};
+  EXPECT_TRUE(group(spider, mixed));
+  EXPECT_FALSE(group(plaza, mixed));
+  EXPECT_TRUE(group(plaza, alternating));
+  EXPECT_FALSE(group(coral, alternating));
+  EXPECT_FALSE(group(plus, sameSuit));
+  EXPECT_TRUE(group(plus, alternating));
+  // HOrder 0 with MOrder 0: the group order falls back on same suit.
+  EXPECT_FALSE(group({.HOrder = 0}, mixed));
+  EXPECT_TRUE(group({.HOrder = 0}, sameSuit));
+  // Any Card: every pair passes.
+  EXPECT_TRUE(group({.HOrder = 5, .MOrder = 5}, {{0, 0}, {9, 1}, {3, 2}}));
+  // With wrapping a group may run Two, Ace, King, Queen.
+  EXPECT_TRUE(group({.HAK = 1}, {{1, 0}, {0, 1}, {12, 2}}));
+  EXPECT_FALSE(group({}, {{1, 0}, {0, 1}, {12, 2}}));
+}
+
+TEST(Rules, WhereACardMayBeLaid) {
+  Arranged a({}, {{{7, 0}}, {}, {{6, 3}}, {{12, 1}}});
+  EXPECT_TRUE(TableauAccepts(a.table, a.games, 0, a.Top(2)));   // a Seven on an Eight of another suit
+  EXPECT_FALSE(TableauAccepts(a.table, a.games, 2, a.Top(0)));  // not upwards
+  EXPECT_TRUE(TableauAccepts(a.table, a.games, 1, a.Top(2)));   // any card fills a space
+  Arranged kingsOnly({.HSpace = 12}, {{{7, 0}}, {}, {{12, 1}}});
+  EXPECT_FALSE(TableauAccepts(kingsOnly.table, kingsOnly.games, 1, kingsOnly.Top(0)));
+  EXPECT_TRUE(TableauAccepts(kingsOnly.table, kingsOnly.games, 1, kingsOnly.Top(2)));
+  Arranged wrap({.HAK = 1}, {{{0, 0}}, {{12, 2}}});
+  EXPECT_TRUE(TableauAccepts(wrap.table, wrap.games, 0, wrap.Top(1)));
+}
+
+TEST(Rules, CompletedSetsAreFoundOnlyOnTop) {
+  std::vector<Want> run;
+  for (int n = 12; n >= 0; --n) run.push_back({n, n % 4, n < 3});
+  Arranged mixedSuits({}, {run});
+  EXPECT_TRUE(HasSetOnTop(mixedSuits.table, mixedSuits.games, 0));  // face-down cards count too
+  auto covered = run;
+  covered.push_back({4, 0});
+  Arranged a({}, {covered});
+  EXPECT_FALSE(HasSetOnTop(a.table, a.games, 0));
+  auto twelve = std::vector<Want>(run.begin() + 1, run.end());
+  Arranged b({}, {twelve});
+  EXPECT_FALSE(HasSetOnTop(b.table, b.games, 0));
+  Arranged sameSuitNeeded({.HOrder = 0}, {run});
+  EXPECT_FALSE(HasSetOnTop(sameSuitNeeded.table, sameSuitNeeded.games, 0));
+  std::vector<Want> anyThirteen;
+  for (int n = 0; n < 12; ++n) anyThirteen.push_back({(n * 5) % 13 == 0 ? 3 : (n * 5) % 13, n % 4});
+  anyThirteen.push_back({0, 1});
+  Arranged any({.HOrder = 5, .MOrder = 5}, {anyThirteen});
+  EXPECT_TRUE(HasSetOnTop(any.table, any.games, 0));
+}
+
+TEST(Rules, FoundationsTakeAnAceThenOneRankHigher) {
+  Arranged a({}, {{{0, 1}}, {{1, 1}}, {{12, 0}}, {{11, 0}}});
+  EXPECT_TRUE(FoundationAccepts(a.table, a.games, 0, a.Top(0)));
+  EXPECT_FALSE(FoundationAccepts(a.table, a.games, 0, a.Top(1)));
+  // A foundation whose top is a King (cards dragged off a set) takes the Queen below it.
+  a.table.UpdatePlace(a.Top(2), 3, 0, 0, true, true);
+  EXPECT_FALSE(FoundationAccepts(a.table, a.games, 0, a.Top(0)));
+  EXPECT_TRUE(FoundationAccepts(a.table, a.games, 0, a.Top(3)));
+}
+
+}  // namespace
+}  // namespace qv
