@@ -25,6 +25,7 @@ struct CardRec {
 // which card lies at which position. Rules and geometry read it; cPlay changes it.
 class Table {
  public:
+  Table() { Clear(); }
   // Makes the empty table for a deal (no card placed yet) and shares out identities.
   void Make(const cGames& games, const GameNo& no);
   void Clear();
