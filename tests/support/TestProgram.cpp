@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "engine/Pointer.h"
+#include "engine/Rules.h"
 #include "session/SavedGameFile.h"
 
 namespace qv::test {
@@ -54,6 +55,38 @@ void PlayWithRules(TestProgram& t, const Rules& r, uint64_t number) {
 
 void DealRows(TestProgram& t, int n) {
   for (int i = 0; i < n && t->cPlay.GetTop(1, 0) >= 0; ++i) ClickCard(*t.app, t->cPlay.GetTopPicID(1, 0));
+}
+
+bool MakeAnyLegalMove(TestProgram& t) {
+  const Table& table = t->cPlay.table();
+  for (int from = 0; from < t->cGames.Piles(0); ++from) {
+    const int top = table.GetTop(0, from);
+    if (top < 0) continue;
+    // The lowest card of the longest group that can be picked up.
+    int foot = top;
+    while (foot > 0 && table.Card(table.GetPicID(0, from, foot - 1)).FaceMode &&
+           IsSequence(table, t->cGames, table.GetPicID(0, from, foot - 1), top - foot + 1))
+      --foot;
+    const int pic = table.GetPicID(0, from, foot);
+    for (int to = 0; to < t->cGames.Piles(0); ++to) {
+      if (to == from || (foot == 0 && table.GetTop(0, to) < 0)) continue;
+      if (!TableauAccepts(table, t->cGames, to, pic)) continue;
+      const int before = t->cEngine.GetTransID();
+      DragCardToPile(*t.app, pic, to);
+      if (t->cEngine.GetTransID() == before + 1) return true;
+    }
+  }
+  return false;
+}
+
+std::vector<int> Snapshot(const Program& app) {
+  std::vector<int> out;
+  const Table& table = app.cPlay.table();
+  for (int pic = 0; pic < table.TotalCards(); ++pic) {
+    const CardRec& c = table.Card(pic);
+    out.insert(out.end(), {c.Cell, c.Pile, c.Pos, c.FaceMode ? 1 : 0});
+  }
+  return out;
 }
 
 void WriteFile(const std::string& path, const std::string& text) {

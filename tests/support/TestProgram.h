@@ -70,6 +70,12 @@ void PlayWithRules(TestProgram& t, const Rules& rules, uint64_t number = 1);
 // Presses the Stock n times.
 void DealRows(TestProgram& t, int n);
 
+// Makes the first legal drag of a top card (or group) onto another tableau pile that it
+// finds, pile by pile; false when there is none.
+bool MakeAnyLegalMove(TestProgram& t);
+// Where every card lies, with its face: two tables are equal when these are.
+std::vector<int> Snapshot(const Program& app);
+
 // Writes text to a file, for fixtures.
 void WriteFile(const std::string& path, const std::string& text);
 std::string ReadFile(const std::string& path);

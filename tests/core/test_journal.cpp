@@ -1,0 +1,204 @@
+#include <gtest/gtest.h>
+
+#include "TestProgram.h"
+#include "engine/Pointer.h"
+#include "session/SavedGameFile.h"
+
+namespace qv {
+namespace {
+
+// "Any Card" rules let a test move any top card anywhere, to make journals of any shape.
+const test::Rules kAnyCard{.HOrder = 5, .MOrder = 5};
+
+// Moves the top card of `from` onto `to`, as a drag does.
+void Shuttle(test::TestProgram& t, int from, int to) { DragCardToPile(*t.app, t->cPlay.GetTopPicID(0, from), to); }
+
+TEST(Journal, ADealtRowIsOneStepOfTenRecords) {
+  test::TestProgram t;
+  t.Deal("Spider", 3);
+  const auto dealt = test::Snapshot(*t.app);
+  test::DealRows(t, 1);
+  auto& e = t->cEngine;
+  ASSERT_EQ(e.GetTransID(), 10);
+  for (int id = 1; id <= 9; ++id) EXPECT_EQ(e.Multi(id), 1);
+  EXPECT_EQ(e.Multi(10), 0);
+  EXPECT_EQ(e.Record(1).tMod, 1);
+  EXPECT_EQ(e.SCell(1), 1);
+  EXPECT_EQ(e.SPos(1), 59);
+  EXPECT_EQ(e.DPos(10), 4);
+
+  // One undo takes the whole row back: the last record at the speed asked, nine at 2.
+  const long frames = t.sprites.Frames();
+  int speed = 5;
+  EXPECT_TRUE(e.Undo(speed));
+  EXPECT_EQ(speed, 2);
+  EXPECT_EQ(t.sprites.Frames() - frames, 5 + 9 * 2);
+  EXPECT_EQ(e.GetTransID(), 0);
+  EXPECT_EQ(test::Snapshot(*t.app), dealt);
+  EXPECT_FALSE(e.Undo(speed));
+}
+
+TEST(Journal, UndoOfAnUncoveringMoveTurnsTheCardDownAgain) {
+  test::TestProgram t;
+  test::PlayWithRules(t, kAnyCard);
+  const int moved = t->cPlay.GetTopPicID(0, 0), under = t->cPlay.GetPicID(0, 0, 3);
+  Shuttle(t, 0, 1);
+  ASSERT_EQ(t->cEngine.GetTransID(), 1);
+  EXPECT_EQ(t->cEngine.Record(1).tMod, 3);
+  EXPECT_TRUE(t->cPlay.FaceMode(under));
+  int speed = 0;
+  t->cEngine.Undo(speed);
+  EXPECT_FALSE(t->cPlay.FaceMode(under));
+  EXPECT_EQ(t->cPlay.GetTopPicID(0, 0), moved);
+  // The card came back onto a closed card: four closed, then the open one.
+  EXPECT_EQ(t.sprites.Get(Sprites::PicCD, moved).top, t->cGames.GetCordY(0, 0, 4));
+  t->cEngine.Redo(speed);
+  EXPECT_TRUE(t->cPlay.FaceMode(under));
+}
+
+TEST(Journal, ANewMoveDropsWhatWasUndone) {
+  test::TestProgram t;
+  test::PlayWithRules(t, kAnyCard);
+  for (int i = 0; i < 5; ++i) Shuttle(t, i, i + 1);
+  auto& e = t->cEngine;
+  int speed = 0;
+  for (int i = 0; i < 3; ++i) e.Undo(speed);
+  EXPECT_EQ(e.GetTransID(), 2);
+  EXPECT_TRUE(e.RedoPossible());
+  Shuttle(t, 7, 8);
+  EXPECT_EQ(e.GetTransID(), 3);
+  EXPECT_EQ(e.GetTransTop(), 3);
+  EXPECT_FALSE(e.RedoPossible());
+}
+
+TEST(Journal, UndoAllRedoAllAndMoveTo) {
+  test::TestProgram t;
+  test::PlayWithRules(t, kAnyCard);
+  const auto dealt = test::Snapshot(*t.app);
+  Shuttle(t, 0, 1);
+  test::DealRows(t, 1);  // records 2 to 11, one step
+  Shuttle(t, 2, 3);
+  const auto end = test::Snapshot(*t.app);
+  auto& e = t->cEngine;
+
+  e.MoveTo(e.GetTransID());
+  EXPECT_EQ(test::Snapshot(*t.app), end);
+  // A place inside the row: walking by whole steps, back lands at the row's start and
+  // forward at its end.
+  e.MoveTo(5);
+  EXPECT_EQ(e.GetTransID(), 1);
+  e.MoveTo(5);
+  EXPECT_EQ(e.GetTransID(), 11);
+  e.MoveTo(1);
+  e.MoveTo(99);
+  EXPECT_EQ(e.GetTransID(), 1);
+
+  int speed = 0;
+  e.UndoAll(speed);
+  EXPECT_EQ(test::Snapshot(*t.app), dealt);
+  EXPECT_TRUE(e.MoveStarted());
+  EXPECT_FALSE(e.UndoPossible());
+  EXPECT_TRUE(e.RedoPossible());
+  // Passing the row's step turns the speed to 2 for the rest of the walk.
+  speed = 0;
+  e.RedoAll(speed);
+  EXPECT_EQ(speed, 2);
+  EXPECT_EQ(test::Snapshot(*t.app), end);
+}
+
+TEST(Journal, GrowsInBlocksOfAHundred) {
+  test::TestProgram t;
+  test::PlayWithRules(t, kAnyCard);
+  for (int i = 0; i < 100; ++i) Shuttle(t, i % 2, 1 - i % 2);
+  EXPECT_EQ(t->cEngine.GetTransMax(), 100);
+  const TransRec first = t->cEngine.Record(1);
+  Shuttle(t, 0, 1);
+  EXPECT_EQ(t->cEngine.GetTransID(), 101);
+  EXPECT_EQ(t->cEngine.GetTransMax(), 200);
+  EXPECT_EQ(t->cEngine.Record(1), first);
+}
+
+TEST(Journal, NoStepCrossesTheLimitOfTheJournal) {
+  test::TestProgram t;
+  test::PlayWithRules(t, kAnyCard);
+  auto& e = t->cEngine;
+  while (e.GetTransID() < cEngine::kMaxRecords - 5) {
+    const int pic = t->cPlay.GetTopPicID(0, 0);
+    t->cPlay.MoveCard(pic, 0, 1, t->cPlay.GetTop(0, 1) + 1, 0, 0, 0, true);
+    t->cPlay.MoveCard(pic, 0, 0, t->cPlay.GetTop(0, 0) + 1, 0, 0, 0, true);
+  }
+  const int before = e.GetTransID();
+  test::DealRows(t, 1);  // ten records do not fit: the row is not dealt
+  EXPECT_EQ(e.GetTransID(), before);
+  EXPECT_EQ(t->cPlay.GetTop(1, 0), 59);
+  while (e.GetTransID() < cEngine::kMaxRecords) Shuttle(t, 0, 1);
+  const auto full = test::Snapshot(*t.app);
+  Shuttle(t, 0, 1);  // refused: the card jumps back
+  EXPECT_EQ(e.GetTransID(), cEngine::kMaxRecords);
+  EXPECT_EQ(test::Snapshot(*t.app), full);
+  int speed = 0;
+  EXPECT_TRUE(e.Undo(speed));
+}
+
+TEST(Journal, TotalGoalCardsCountsTheFoundations) {
+  test::TestProgram t;
+  test::PlayWithRules(t, kAnyCard);
+  EXPECT_EQ(t->cEngine.TotalGoalCards(), 0);
+  test::DealRows(t, 6);
+  // Any thirteen cards with an Ace on top are a set here: make one on pile 0.
+  int sets = 0;
+  for (int guard = 0; guard < 400 && sets == 0; ++guard) {
+    sets = t->cEngine.TotalGoalCards() / 13;
+    if (sets) break;
+    // Bring an Ace from the top of another pile onto pile 0 once it is tall enough.
+    for (int p = 1; p < 10; ++p) {
+      if (t->cPlay.GetTop(0, p) < 0) continue;
+      const int top = t->cPlay.GetTopPicID(0, p);
+      if (t->cPlay.Num(top) == 0 && t->cPlay.GetTop(0, 0) >= 11) {
+        DragCardToPile(*t.app, top, 0);
+        break;
+      }
+      if (t->cPlay.Num(top) != 0 && t->cPlay.GetTop(0, p) > 0) {
+        DragCardToPile(*t.app, top, 0);
+        break;
+      }
+    }
+  }
+  EXPECT_EQ(t->cEngine.TotalGoalCards(), 13);
+  // The set's 13 records are one step.
+  int speed = 0;
+  t->cEngine.Undo(speed);
+  EXPECT_EQ(t->cEngine.TotalGoalCards(), 0);
+}
+
+// Random legal play: undo all gives back the deal, redo all the end, and a saved file
+// saved again after loading is the same to the byte.
+TEST(Journal, RandomPlayUndoesRedoesAndSavesExactly) {
+  for (uint64_t game : {7u, 1234u, 99999u}) {
+    test::TestProgram t;
+    t.Deal("Spider", game);
+    const auto dealt = test::Snapshot(*t.app);
+    std::mt19937 rng(static_cast<unsigned>(game));
+    for (int i = 0; i < 60; ++i) {
+      if (rng() % 4 == 0 || !test::MakeAnyLegalMove(t)) test::DealRows(t, 1);
+    }
+    const auto end = test::Snapshot(*t.app);
+    auto& e = t->cEngine;
+    int speed = 0;
+    e.UndoAll(speed);
+    EXPECT_EQ(test::Snapshot(*t.app), dealt) << game;
+    e.RedoAll(speed);
+    EXPECT_EQ(test::Snapshot(*t.app), end) << game;
+
+    const std::string first = t.home.File("a.vq0"), second = t.home.File("b.vq0");
+    ASSERT_TRUE(e.SavetoFile(first));
+    test::TestProgram other;
+    ASSERT_TRUE(other->cGamePlay.PlayFile(first, false));
+    EXPECT_EQ(test::Snapshot(*other.app), end) << game;
+    ASSERT_TRUE(other->cEngine.SavetoFile(second));
+    EXPECT_EQ(test::ReadFile(first), test::ReadFile(second)) << game;
+  }
+}
+
+}  // namespace
+}  // namespace qv
