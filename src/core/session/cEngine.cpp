@@ -87,13 +87,17 @@ void cEngine::RedoAll(int& Speed) {
 
 void cEngine::MoveTo(int Pos) {
   if (Pos < 0 || Pos > TransTop || Pos == TransID) return;
-  while (TransID < Pos) {
-    int speed = 0;
-    Redo(speed);
-  }
-  while (TransID > Pos) {
-    int speed = 0;
-    Undo(speed);
+  // By whole steps: a place inside a step leaves the cursor at the step's far end.
+  if (Pos > TransID) {
+    while (TransID < Pos) {
+      int speed = 0;
+      Redo(speed);
+    }
+  } else {
+    while (TransID > Pos) {
+      int speed = 0;
+      Undo(speed);
+    }
   }
 }
 
