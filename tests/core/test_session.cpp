@@ -1,0 +1,343 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "TestProgram.h"
+#include "engine/DealGenerator.h"
+#include "engine/Pointer.h"
+#include "scores/Players.h"
+#include "scores/ScoreText.h"
+#include "session/SavedGameFile.h"
+#include "session/StartUp.h"
+
+namespace qv {
+namespace {
+
+const test::Rules kAnyCard{.HOrder = 5, .MOrder = 5};
+
+void Shuttle(test::TestProgram& t, int from, int to) { DragCardToPile(*t.app, t->cPlay.GetTopPicID(0, from), to); }
+
+TEST(SessionText, FormatSecondsAndStatus) {
+  EXPECT_EQ(FormatSeconds(65), "0:01:05");
+  EXPECT_EQ(FormatSeconds(754), "0:12:34");
+  EXPECT_EQ(FormatSeconds(0), "0:00:00");
+  EXPECT_EQ(FormatSeconds(90000), "25:00:00");
+  EXPECT_EQ(StatusText(1), "Won");
+  EXPECT_EQ(StatusText(0), "Lost");
+  EXPECT_EQ(StatusText(-1), "Lost");
+}
+
+TEST(SessionScore, WorkedScoresRoundHalvesToEven) {
+  test::TestProgram t;
+  t.Deal("Spider", 9);
+  auto& gp = t->cGamePlay;
+  test::DealRows(t, 1);
+  gp.Time(300);
+  EXPECT_EQ(gp.Score(), -105);  // 0 - (100 + 5)
+
+  test::TestProgram any;
+  test::PlayWithRules(any, kAnyCard);
+  Shuttle(any, 0, 1);
+  any->cGamePlay.Time(1);
+  EXPECT_EQ(any->cGamePlay.Score(), -1);  // -0.8333
+  Shuttle(any, 2, 3);
+  Shuttle(any, 4, 5);
+  any->cGamePlay.Time(3);
+  EXPECT_EQ(any->cGamePlay.Score(), -2);  // -2.5 goes to the even -2
+  // Undo lowers the moves, and the score moves with it.
+  int speed = 0;
+  any->cEngine.Undo(speed);
+  EXPECT_EQ(any->cGamePlay.Score(), -2);  // -(1 + 1)
+  any->cGamePlay.Time(2000000000);
+  EXPECT_EQ(any->cGamePlay.Score(), -32768);  // saturates, never wraps
+}
+
+TEST(SessionScore, PercentageAndCardsLeft) {
+  test::TestProgram t;
+  EXPECT_EQ(t->cGamePlay.Percentage(), 0);  // no game: nothing divides by zero
+  t.Deal("Spider", 9);
+  EXPECT_EQ(t->cGamePlay.Percentage(), 0);
+  EXPECT_EQ(t->cGamePlay.CardsLeft(), 104);
+}
+
+TEST(SessionTitle, WorkedTitleWithEveryReadout) {
+  test::TestProgram t;
+  StartUp(*t.app);
+  t.Deal("Spider", 482913);
+  test::DealRows(t, 2);
+  ASSERT_TRUE(test::MakeAnyLegalMove(t));
+  auto& gp = t->cGamePlay;
+  gp.Time(137);
+  gp.PauseGame(true);
+  gp.Update_Title();
+  EXPECT_EQ(t.window.title,
+            "Quorvale 6.0 [Spider - 482913] [Player1] [Time:0:02:17 Score:-56 Moves:21 Cards Left:104] [Game Paused]");
+  t.settings.WriteInt("Options", "ShowTime", 0);
+  t.settings.WriteInt("Options", "ShowScore", 0);
+  t.settings.WriteInt("Options", "ShowMoves", 0);
+  t.settings.WriteInt("Options", "ShowCardsLeft", 0);
+  gp.PauseGame(false);
+  EXPECT_EQ(gp.Title(), "Quorvale 6.0 [Spider - 482913] [Player1]");
+  gp.ClearArea();
+  EXPECT_EQ(gp.Title(), "Quorvale 6.0");
+}
+
+TEST(SessionStart, StartUpMakesAFirstPlayerOnce) {
+  test::TestProgram t;
+  StartUp(*t.app);
+  StartUp(*t.app);
+  EXPECT_EQ(PlayerCount(t->cRegistry), 1);
+  EXPECT_EQ(GetCurPlayer(t->cRegistry), "Player1");
+  EXPECT_FALSE(t->cData.SesStartTime().empty());
+}
+
+TEST(SessionStart, ANewDealRunsTheClockAndRemembersTheGame) {
+  test::TestProgram t;
+  auto& gp = t->cGamePlay;
+  EXPECT_EQ(gp.Game_Status(), 0);
+  t.Deal("Coral", 77);
+  EXPECT_EQ(gp.Game_Status(), 1);
+  EXPECT_TRUE(gp.Game_Running());
+  EXPECT_TRUE(t.window.TimerEnabled(Timer::Game));
+  EXPECT_EQ(gp.LastGName(), "Coral");
+  EXPECT_EQ(t->cCustom.MOrder, 2);
+  gp.TickGame();
+  gp.TickGame();
+  EXPECT_EQ(gp.Time(), 2);
+  gp.PauseGame(true);
+  EXPECT_FALSE(t.window.TimerEnabled(Timer::Game));
+  EXPECT_TRUE(t.window.pausedShown);
+  gp.TickGame();
+  EXPECT_EQ(gp.Time(), 2);
+  // Dealing again gives up the game on the table: a new game, clock at 0, no pause.
+  gp.Restart();
+  EXPECT_EQ(gp.Time(), 0);
+  EXPECT_FALSE(gp.PauseStatus());
+  EXPECT_EQ(t->cEngine.GetTransTop(), 0);
+}
+
+TEST(SessionStart, UnknownGamesAreRefusedAndTheTableStays) {
+  test::TestProgram t;
+  t.Deal("Spider", 5);
+  test::DealRows(t, 1);
+  const auto before = test::Snapshot(*t.app);
+  EXPECT_FALSE(t->cGamePlay.PlayNumber("Spyder", GameNo::Number(5)));
+  ASSERT_EQ(t.dialogs.shown.size(), 1u);
+  EXPECT_NE(t.dialogs.shown[0].find("Spyder"), std::string::npos);
+  EXPECT_EQ(t.dialogs.titles[0], "Quorvale 6.0");
+  EXPECT_EQ(test::Snapshot(*t.app), before);
+  EXPECT_EQ(t->cGamePlay.GameName(), "Spider");
+  EXPECT_EQ(t->cEngine.GetTransID(), 10);
+  EXPECT_TRUE(t->cGamePlay.Game_Running());
+}
+
+TEST(SessionStart, RandomGamesUseTheLastGameAndTheRange) {
+  test::TestProgram t;
+  auto& gp = t->cGamePlay;
+  ASSERT_TRUE(gp.PlayRandom());  // a first run has no last game
+  EXPECT_EQ(gp.GameName(), "Spider");
+  t->cGamePlay.PlayNumber("Scarab", GameNo::Number(3));
+  t.settings.WriteInt("Options", "RangeIndex", 1);
+  for (int i = 0; i < 50; ++i) {
+    gp.PlayRandom();
+    EXPECT_EQ(gp.GameName(), "Scarab");
+    EXPECT_FALSE(gp.GameNo().IsTyped());
+    const double n = gp.GameNo().Value();
+    EXPECT_TRUE(n >= 1 && n <= 9) << n;
+  }
+  t.settings.WriteInt("Options", "RangeIndex", 15);
+  gp.PlayRandom("Plaza");
+  EXPECT_EQ(gp.GameName(), "Plaza");
+  EXPECT_LE(gp.GameNo().Text().size(), 15u);
+}
+
+TEST(SessionStart, RecentEntriesSplitAtTheLastDash) {
+  test::TestProgram t;
+  auto& gp = t->cGamePlay;
+  ASSERT_TRUE(gp.PlayString("Spider Two Suit - 0042"));
+  EXPECT_EQ(gp.GameName(), "Spider Two Suit");
+  EXPECT_TRUE(gp.GameNo().IsTyped());
+  EXPECT_EQ(gp.GameNo().Text(), "0042");
+  EXPECT_EQ(t->cPlay.table().Deck(), ShuffleDeck(104, 42));
+  EXPECT_FALSE(gp.PlayString("Spider"));
+  EXPECT_FALSE(gp.PlayString("Spider - x1"));
+  EXPECT_EQ(gp.GameName(), "Spider Two Suit");
+}
+
+// Saved games with their loading types.
+struct SessionFiles : ::testing::Test {
+  void SetUp() override {
+    t.Deal("Spider", 2024);
+    test::DealRows(t, 2);
+    t->cGamePlay.Time(95);
+    saved = test::Snapshot(*t.app);
+    ASSERT_TRUE(t->cEngine.SavetoFile(t.home.File("game.vq0")));
+    t->cGamePlay.ClearArea();
+  }
+  test::TestProgram t;
+  std::vector<int> saved;
+};
+
+TEST_F(SessionFiles, AnIncompleteGameComesBackRunningWhereItWas) {
+  auto& gp = t->cGamePlay;
+  ASSERT_TRUE(gp.PlayFile(t.home.File("game.vq0"), true));
+  EXPECT_EQ(gp.Game_Status(), 1);
+  EXPECT_EQ(gp.Game_LoadingType(), 1);
+  EXPECT_EQ(gp.Time(), 95);
+  EXPECT_EQ(test::Snapshot(*t.app), saved);
+  EXPECT_EQ(t->cEngine.GetTransID(), 20);
+  EXPECT_EQ(t.window.finishShown, 0);
+}
+
+TEST_F(SessionFiles, AFinishedGameIsReplayedByTheForwardTimer) {
+  std::filesystem::copy_file(t.home.File("game.vq0"), t.home.File("GAME.VQ1"));
+  auto& gp = t->cGamePlay;
+  ASSERT_TRUE(gp.PlayFile(t.home.File("GAME.VQ1"), true));
+  EXPECT_EQ(gp.Game_Status(), 2);
+  EXPECT_FALSE(gp.Game_Running());
+  EXPECT_TRUE(t.window.TimerEnabled(Timer::Forward));
+  EXPECT_FALSE(t.window.TimerEnabled(Timer::Game));
+  EXPECT_EQ(t->cEngine.GetTransID(), 0);
+  EXPECT_EQ(t->cEngine.GetTransTop(), 20);
+  EXPECT_NE(gp.Title().find("] [Finished Game]"), std::string::npos);
+  // A finished game keeps the score its file holds.
+  EXPECT_EQ(gp.Score(), ReadGameHeader(t.home.File("GAME.VQ1"))->Score);
+  // Starting anything else clears it without ending a game.
+  t.Deal("Spider", 1);
+  EXPECT_EQ(gp.Game_Status(), 1);
+}
+
+TEST_F(SessionFiles, APendingGameGoesBackToItsFileWhenItEnds) {
+  const std::string pending = t.home.File("pend.vq0");
+  std::filesystem::copy_file(t.home.File("game.vq0"), pending);
+  auto& gp = t->cGamePlay;
+  ASSERT_TRUE(gp.PlayPendFile(pending));
+  EXPECT_FALSE(std::filesystem::exists(pending));
+  EXPECT_TRUE(gp.IsPending());
+  EXPECT_NE(gp.Title().find("[Pending List Game]"), std::string::npos);
+  test::DealRows(t, 1);
+  gp.EndGame(0, false);  // Close
+  EXPECT_EQ(gp.Game_Status(), 0);
+  ASSERT_TRUE(std::filesystem::exists(pending));
+  EXPECT_EQ(ReadGameHeader(pending)->Moves, 30);
+}
+
+TEST_F(SessionFiles, APendingGameSurvivesAFinishedReplayBeforeIt) {
+  std::filesystem::copy_file(t.home.File("game.vq0"), t.home.File("done.vq1"));
+  const std::string pending = t.home.File("pend.vq0");
+  std::filesystem::copy_file(t.home.File("game.vq0"), pending);
+  auto& gp = t->cGamePlay;
+  gp.PlayFile(t.home.File("done.vq1"), false);
+  ASSERT_TRUE(gp.PlayPendFile(pending));
+  EXPECT_EQ(gp.PendFile(), pending);
+  t.settings.WriteInt("Options", "GameSave", 1);
+  gp.Unload();  // a pending game goes back to the list at stop, whatever GameSave says
+  EXPECT_TRUE(std::filesystem::exists(pending));
+  EXPECT_FALSE(std::filesystem::exists(t->cData.UnFinFile()));
+}
+
+TEST_F(SessionFiles, APendingGameThatCannotBeWrittenBackStays) {
+  const std::string pending = t.home.File("pend.vq0");
+  std::filesystem::copy_file(t.home.File("game.vq0"), pending);
+  auto& gp = t->cGamePlay;
+  ASSERT_TRUE(gp.PlayPendFile(pending));
+  std::filesystem::create_directory(pending);  // the old name is taken by a folder now
+  EXPECT_FALSE(gp.EndGame(0, false));
+  EXPECT_EQ(gp.Game_Status(), 1);
+  EXPECT_EQ(t.dialogs.shown.size(), 1u);
+  // Nor does a new deal throw it away.
+  EXPECT_FALSE(gp.PlayNumber("Spider", GameNo::Number(1)));
+  EXPECT_EQ(test::Snapshot(*t.app), saved);
+}
+
+TEST(SessionStop, UnloadKeepsARunningGameForTheNextStart) {
+  test::TestProgram t;
+  t.Deal("Spider Two Suit", 31);
+  test::DealRows(t, 1);
+  t->cGamePlay.Unload();
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 1);
+  const auto h = ReadGameHeader(t->cData.UnFinFile());
+  ASSERT_TRUE(h);
+  EXPECT_EQ(h->GameName, "Spider Two Suit");
+  EXPECT_EQ(h->Moves, 10);
+  EXPECT_EQ(t->cData.UnFinFile(), (t.home.Path() / "data" / "Velmarin Works" / "Quorvale 6.0" / "Unfin.vq0").string());
+}
+
+TEST(SessionStop, UnloadWithoutKeepingOrWithoutAGameLeavesNothingWaiting) {
+  test::TestProgram t;
+  t.settings.WriteInt("General", "UnFin", 1);
+  t->cGamePlay.Unload();  // no game: only the mark is cleared
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
+  t.Deal("Spider", 31);
+  t.settings.WriteInt("Options", "GameSave", 0);
+  t->cGamePlay.Unload();
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
+  EXPECT_FALSE(std::filesystem::exists(t->cData.UnFinFile()));
+}
+
+TEST(SessionStop, AnUnfinishedGameThatCannotBeWrittenIsNotMarkedWaiting) {
+  test::TestProgram t;
+  t.Deal("Spider", 31);
+  std::filesystem::create_directories(t->cData.UnFinFile());  // the name is taken by a folder
+  t->cGamePlay.Unload();
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
+  EXPECT_EQ(t.dialogs.shown.size(), 1u);
+}
+
+TEST(SessionStop, ASettingsStoreThatRefusesWritesDoesNotStopTheGame) {
+  test::TestProgram t;
+  t.settings.SetRefuseWrites(true);
+  t.Deal("Spider", 31);
+  test::DealRows(t, 1);
+  EXPECT_TRUE(t->cGamePlay.Game_Running());
+  EXPECT_EQ(t->cEngine.GetTransID(), 10);
+  t->cGamePlay.Unload();
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
+}
+
+// With "Any Card" rules a foundation takes an Ace when empty and any card after it, so a
+// game is won by double-clicks alone, opening one foundation at a time. Piles stay below
+// thirteen cards, so no set leaves by itself meanwhile.
+TEST(SessionWin, TheLastCardOnTheFoundationsOpensTheFinishOnce) {
+  test::TestProgram t;
+  test::PlayWithRules(t, kAnyCard);
+  test::DealRows(t, 6);
+  auto& play = t->cPlay;
+  auto height = [&](int p) { return play.GetTop(0, p) + 1; };
+  auto isAce = [&](int p, int q) { return play.Num(play.GetPicID(0, p, q)) == 0; };
+  auto shortestBut = [&](int not_) {
+    int best = not_ == 0 ? 1 : 0;
+    for (int p = 0; p < 10; ++p)
+      if (p != not_ && height(p) < height(best)) best = p;
+    return best;
+  };
+  for (int guard = 0; guard < 3000 && t->cEngine.TotalGoalCards() < 104; ++guard) {
+    bool open = false;
+    for (int f = 0; f < 8; ++f) open |= play.GetTop(3, f) >= 0 && play.GetTop(3, f) < 12;
+    // An open foundation takes any top card but an Ace; otherwise an Ace opens the next.
+    int pick = -1;
+    for (int p = 0; p < 10 && pick < 0; ++p)
+      if (height(p) > 0 && isAce(p, height(p) - 1) != open) pick = p;
+    if (pick >= 0) {
+      DoubleClickCard(*t.app, play.GetTopPicID(0, pick));
+      continue;
+    }
+    // Nothing fits: move a card off the pile that hides the nearest Ace (or off an Ace).
+    int from = -1;
+    for (int p = 0, depth = 1000; p < 10; ++p)
+      for (int q = 0; q < height(p); ++q)
+        if (isAce(p, q) && height(p) - 1 - q < depth) from = p, depth = height(p) - 1 - q;
+    ASSERT_GE(from, 0);
+    Shuttle(t, from, shortestBut(from));
+  }
+  EXPECT_EQ(t->cEngine.TotalGoalCards(), 104);
+  for (int f = 0; f < 8; ++f) EXPECT_EQ(play.GetTop(3, f), 12) << f;
+  EXPECT_EQ(t.window.finishShown, 1);
+  // The won game stays on the table, running, until the finish dialog ends it.
+  EXPECT_TRUE(t->cGamePlay.Game_Running());
+  EXPECT_EQ(t->cGamePlay.CardsLeft(), 0);
+  EXPECT_EQ(t->cGamePlay.Percentage(), 100);
+}
+
+}  // namespace
+}  // namespace qv
