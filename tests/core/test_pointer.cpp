@@ -1,0 +1,214 @@
+#include <gtest/gtest.h>
+
+#include "TestProgram.h"
+#include "engine/Pointer.h"
+#include "engine/Rules.h"
+
+namespace qv {
+namespace {
+
+const test::Rules kAnyCard{.HOrder = 5, .MOrder = 5};
+
+struct Pointer : ::testing::Test {
+  const RecordingSprites::Sprite& Sprite(int pic) { return t.sprites.Get(Sprites::PicCD, pic); }
+  int Top(int pile) { return t->cPlay.GetTopPicID(0, pile); }
+  test::TestProgram t;
+};
+
+TEST_F(Pointer, APressAndReleaseInPlacePutsTheCardBack) {
+  t.Deal("Spider", 1);
+  const int card = Top(3);
+  const double left = Sprite(card).left, top = Sprite(card).top;
+  const long moves = t.sprites.Moves();
+  ClickCard(*t.app, card);
+  EXPECT_EQ(Sprite(card).left, left);
+  EXPECT_EQ(Sprite(card).top, top);
+  EXPECT_GT(t.sprites.Moves(), moves);  // it jumped back
+  EXPECT_EQ(t->cEngine.GetTransID(), 0);
+  EXPECT_FALSE(t->drag.Dragging);
+}
+
+TEST_F(Pointer, AFaceDownCardStartsNothing) {
+  t.Deal("Spider", 1);
+  const int closed = t->cPlay.GetPicID(0, 0, 1);
+  PointerPressed(*t.app, closed, 500, 30);
+  EXPECT_FALSE(t->drag.Dragging);
+  const long moves = t.sprites.Moves();
+  PointerMoved(*t.app, closed, 3000, 3000);
+  PointerReleased(*t.app, closed);
+  EXPECT_EQ(t.sprites.Moves(), moves);
+}
+
+TEST_F(Pointer, ARefusedDropJumpsBack) {
+  t.Deal("Spider", 1);
+  // Find a top card that pile 0's top refuses.
+  for (int p = 1; p < 10; ++p) {
+    if (TableauAccepts(t->cPlay.table(), t->cGames, 0, Top(p))) continue;
+    const int card = Top(p);
+    const double left = Sprite(card).left;
+    DragCardToPile(*t.app, card, 0);
+    EXPECT_EQ(Sprite(card).left, left);
+    EXPECT_EQ(t->cPlay.Pile(card), p);
+    EXPECT_EQ(t->cEngine.GetTransID(), 0);
+    return;
+  }
+  FAIL() << "every top card fits on pile 0";
+}
+
+TEST_F(Pointer, AGroupMovesAsOneRecordAndLandsInOrder) {
+  test::PlayWithRules(t, kAnyCard);
+  DragCardToPile(*t.app, Top(0), 1);
+  DragCardToPile(*t.app, Top(2), 1);  // pile 1 now ends in three open cards
+  const int foot = t->cPlay.GetPicID(0, 1, t->cPlay.GetTop(0, 1) - 2);
+  PointerPressed(*t.app, foot, 500, 30);
+  ASSERT_TRUE(t->drag.Dragging);
+  EXPECT_EQ(t->drag.DragCount, 2);
+  EXPECT_EQ(Sprite(foot).height, 1440 + 2 * 250);
+  EXPECT_EQ(Sprite(t->cPlay.Sel()[1]).parent, foot);
+  EXPECT_EQ(Sprite(t->cPlay.Sel()[2]).top, 500);
+  PointerReleased(*t.app, foot);  // back where it was: the group comes apart again
+  EXPECT_EQ(Sprite(t->cPlay.Sel()[2]).parent, -1);
+  EXPECT_EQ(Sprite(t->cPlay.Sel()[2]).top, Sprite(foot).top + 500);
+
+  const int toTop = t->cPlay.GetTop(0, 5);
+  DragCardToPile(*t.app, foot, 5);
+  const TransRec& r = t->cEngine.Record(t->cEngine.GetTransID());
+  EXPECT_EQ(r.mCards, 2);
+  EXPECT_EQ(r.DPos, toTop + 1);
+  EXPECT_EQ(t->cPlay.GetTop(0, 5), toTop + 3);
+  for (int q = toTop + 1; q <= toTop + 3; ++q) {
+    const int pic = t->cPlay.GetPicID(0, 5, q);
+    EXPECT_EQ(Sprite(pic).parent, -1);
+    EXPECT_EQ(Sprite(pic).top, t->cGames.GetCordY(0, 5, q));
+    if (q > toTop + 1) EXPECT_GT(Sprite(pic).z, Sprite(t->cPlay.GetPicID(0, 5, q - 1)).z);
+  }
+  EXPECT_EQ(Sprite(foot).height, 1440);
+}
+
+TEST_F(Pointer, AGroupThatBreaksTheGroupOrderCannotBePickedUp) {
+  t.Deal("Spider Plus", 1);
+  // In a dealt game only top cards are open: a card under the top is face down.
+  PointerPressed(*t.app, t->cPlay.GetPicID(0, 0, 3), 500, 30);
+  EXPECT_FALSE(t->drag.Dragging);
+}
+
+TEST_F(Pointer, ThePileUnderTheCentreWinsThenTheFirstOverlap) {
+  test::PlayWithRules(t, kAnyCard);
+  const int card = Top(0);
+  // Between piles 4 and 5, a little nearer 5: the centre misses both, the overlap takes 4.
+  const double x = (t->cGames.GetCordX(0, 4, 0) + t->cGames.GetCordX(0, 5, 0)) / 2.0 + 40;
+  DragCardTo(*t.app, card, x, t->cGames.GetCordY(0, 4, t->cPlay.GetTop(0, 4)));
+  EXPECT_EQ(t->cPlay.Pile(card), 4);
+  // Over pile 6's centre: 6 wins though 5 and 7 are touched... nothing else is closer.
+  const int next = Top(1);
+  DragCardTo(*t.app, next, t->cGames.GetCordX(0, 6, 0) + 200, t->cGames.GetCordY(0, 6, t->cPlay.GetTop(0, 6)));
+  EXPECT_EQ(t->cPlay.Pile(next), 6);
+}
+
+TEST_F(Pointer, APressEndsAPauseAndRestartsTheClock) {
+  t.Deal("Spider", 1);
+  t->cGamePlay.PauseGame(true);
+  t.window.EnableTimer(Timer::Game, false);
+  ClickCard(*t.app, Top(2));
+  EXPECT_FALSE(t->cGamePlay.PauseStatus());
+  EXPECT_TRUE(t.window.TimerEnabled(Timer::Game));
+}
+
+TEST_F(Pointer, NothingAnswersWhileNoGameRuns) {
+  t.Deal("Spider", 1);
+  const int card = Top(0);
+  t->cGamePlay.Game_Running(false);
+  PointerPressed(*t.app, card, 500, 30);
+  EXPECT_FALSE(t->drag.Dragging);
+}
+
+TEST_F(Pointer, TheStockDealsARowAndStartsNoDrag) {
+  t.Deal("Spider", 1);
+  const int stockTop = t->cPlay.GetTopPicID(1, 0);
+  PointerPressed(*t.app, stockTop, 500, 30);
+  EXPECT_FALSE(t->drag.Dragging);
+  EXPECT_EQ(t->cPlay.GetTop(1, 0), 49);
+  EXPECT_EQ(t->cPlay.Cell(stockTop), 0);
+  EXPECT_TRUE(t->cPlay.FaceMode(stockTop));
+}
+
+TEST_F(Pointer, APressOnTheStockDuringARowDealsASecondRowSafely) {
+  t.Deal("Spider", 1);
+  const auto dealt = test::Snapshot(*t.app);
+  int presses = 0;
+  t.sprites.onYield = [&] {
+    if (presses++ == 3) ClickCard(*t.app, t->cPlay.GetTopPicID(1, 0));
+  };
+  ClickCard(*t.app, t->cPlay.GetTopPicID(1, 0));
+  t.sprites.onYield = nullptr;
+  EXPECT_EQ(t->cPlay.GetTop(1, 0), 39);
+  for (int p = 0; p < 10; ++p) EXPECT_EQ(t->cPlay.GetTop(0, p), (p < 4 ? 4 : 3) + 2) << p;
+  int speed = 0;
+  t->cEngine.UndoAll(speed);
+  EXPECT_EQ(test::Snapshot(*t.app), dealt);
+}
+
+TEST_F(Pointer, EmptyPilesAreFoundAboveTheirMarker) {
+  test::PlayWithRules(t, kAnyCard);
+  while (t->cPlay.GetTop(0, 9) >= 0) DragCardToPile(*t.app, Top(9), 8);
+  ASSERT_EQ(t->cPlay.GetTop(0, 9), -1);
+  const int card = Top(0);
+  const int markerTop = t->cGames.GetCordY(0, 9, 0);
+  // The card's centre in the marker's lowest 250 twips misses the first pass and is
+  // found by the overlap of the second.
+  DragCardTo(*t.app, card, t->cGames.GetCordX(0, 9, 0), markerTop + 1440 - 250 - 720 + 100);
+  EXPECT_EQ(t->cPlay.Pile(card), 9);
+  EXPECT_EQ(t->cPlay.Pos(card), 0);
+  EXPECT_EQ(t.sprites.Get(Sprites::PicHome, 9).picture.Name(), "marker 14");
+}
+
+TEST_F(Pointer, OnlyKingsFillASpaceWhenTheGameSaysSo) {
+  test::PlayWithRules(t, {.HOrder = 5, .HSpace = 12, .MOrder = 5});
+  while (t->cPlay.GetTop(0, 9) >= 0) DragCardToPile(*t.app, Top(9), 8);
+  EXPECT_EQ(t.sprites.Get(Sprites::PicHome, 9).picture.Name(), "marker 12");
+  for (int p = 0; p < 9; ++p) {
+    const int card = Top(p);
+    DragCardToPile(*t.app, card, 9);
+    EXPECT_EQ(t->cPlay.Pile(card) == 9, t->cPlay.Num(card) == 12) << p;
+    if (t->cPlay.Pile(card) == 9) break;
+  }
+}
+
+TEST_F(Pointer, ADoubleClickSendsAnAceToTheFirstEmptyFoundation) {
+  // Look for a deal with an open Ace.
+  for (uint64_t n = 1; n < 500; ++n) {
+    t.Deal("Spider", n);
+    for (int p = 0; p < 10; ++p) {
+      const int card = Top(p);
+      if (t->cPlay.Num(card) != 0) continue;
+      const int under = t->cPlay.GetPicID(0, p, t->cPlay.GetTop(0, p) - 1);
+      DoubleClickCard(*t.app, card);
+      EXPECT_EQ(t->cPlay.Cell(card), 3);
+      EXPECT_EQ(t->cPlay.Pile(card), 0);
+      EXPECT_TRUE(t->cPlay.FaceMode(under));
+      EXPECT_EQ(t->cEngine.Record(1).tMod, 3);
+      // A card under others, or one no foundation takes, stays.
+      DoubleClickCard(*t.app, t->cPlay.GetPicID(0, (p + 1) % 10, 0));
+      EXPECT_EQ(t->cEngine.GetTransID(), 1);
+      // A card on a foundation cannot be double-clicked anywhere.
+      DoubleClickCard(*t.app, card);
+      EXPECT_EQ(t->cPlay.Cell(card), 3);
+      return;
+    }
+  }
+  FAIL() << "no deal with an open Ace";
+}
+
+TEST_F(Pointer, ClearingTheTableEndsADrag) {
+  t.Deal("Spider", 1);
+  PointerPressed(*t.app, Top(0), 500, 30);
+  ASSERT_TRUE(t->drag.Dragging);
+  t->cGamePlay.ClearArea();
+  EXPECT_FALSE(t->drag.Dragging);
+  EXPECT_EQ(t.sprites.Count(Sprites::PicCD), 1);
+  EXPECT_FALSE(t.sprites.Get(Sprites::PicCD, 0).visible);
+  EXPECT_EQ(t.sprites.Get(Sprites::PicCD, 0).height, 1440);
+}
+
+}  // namespace
+}  // namespace qv
