@@ -131,7 +131,7 @@ TEST(Journal, NoStepCrossesTheLimitOfTheJournal) {
   test::DealRows(t, 1);  // ten records do not fit: the row is not dealt
   EXPECT_EQ(e.GetTransID(), before);
   EXPECT_EQ(t->cPlay.GetTop(1, 0), 59);
-  while (e.GetTransID() < cEngine::kMaxRecords) Shuttle(t, 0, 1);
+  while (e.GetTransID() < cEngine::kMaxRecords) Shuttle(t, e.GetTransID() % 2, 1 - e.GetTransID() % 2);
   const auto full = test::Snapshot(*t.app);
   Shuttle(t, 0, 1);  // refused: the card jumps back
   EXPECT_EQ(e.GetTransID(), cEngine::kMaxRecords);
@@ -169,6 +169,35 @@ TEST(Journal, TotalGoalCardsCountsTheFoundations) {
   int speed = 0;
   t->cEngine.Undo(speed);
   EXPECT_EQ(t->cEngine.TotalGoalCards(), 0);
+}
+
+// A dealt card that completes a set closes the row's step early: the cards dealt before it
+// and the set are one step, and every card dealt after it is a step of its own.
+TEST(Journal, ASetCompletedByADealtCardClosesTheRowsStep) {
+  test::TestProgram t;
+  test::PlayWithRules(t, kAnyCard);
+  auto& play = t->cPlay;
+  // The pile that the next row's Ace lands on, counted from the left.
+  int acePile = -1;
+  for (int p = 0; p < 10 && acePile < 0; ++p)
+    if (play.Num(play.GetPicID(1, 0, play.GetTop(1, 0) - p)) == 0) acePile = p;
+  if (acePile < 0 || acePile == 9) GTEST_SKIP() << "the next row has no Ace before its last card";
+  // Give that pile twelve cards from the others, so the Ace makes thirteen.
+  for (int p = 0; play.GetTop(0, acePile) < 11; p = (p + 1) % 10)
+    if (p != acePile && play.GetTop(0, p) > 0) Shuttle(t, p, acePile);
+  auto& e = t->cEngine;
+  const int before = e.GetTransID();
+  test::DealRows(t, 1);
+  EXPECT_EQ(e.TotalGoalCards(), 13);
+  const int set = before + acePile + 1;  // the Ace's record; the set follows it
+  ASSERT_EQ(e.GetTransID(), before + 10 + 13);
+  for (int id = before + 1; id < set + 13; ++id) EXPECT_EQ(e.Multi(id), 1) << id;
+  for (int id = set + 13; id <= e.GetTransID(); ++id) EXPECT_EQ(e.Multi(id), 0) << id;
+  int speed = 0;
+  for (int i = 0; i < 9 - acePile; ++i) e.Undo(speed);
+  EXPECT_EQ(e.GetTransID(), set + 13);
+  e.Undo(speed);
+  EXPECT_EQ(e.GetTransID(), before);
 }
 
 // Random legal play: undo all gives back the deal, redo all the end, and a saved file

@@ -387,6 +387,7 @@ TEST(SavedGamePlay, FileForASmallerTableIsRefused) {
 
 // A game whose name is neither standard nor created deals from its header's seven table fields.
 struct UnknownCase { int line; int value; bool playable; };
+void PrintTo(const UnknownCase& c, std::ostream* os) { *os << "line " << c.line << " = " << c.value; }
 class SavedGameUnknownName : public ::testing::TestWithParam<UnknownCase> {};
 
 TEST_P(SavedGameUnknownName, PlaysOnlyWhenTheTableFieldsDescribeATable) {
@@ -431,6 +432,7 @@ struct Broken {
   const char* where;  // the line the message must blame, when the fault is on one line
   std::function<std::optional<std::string>(const ShapeGame&)> make;  // nullopt: no file at all
 };
+void PrintTo(const Broken& b, std::ostream* os) { *os << b.name; }
 class SavedGameBroken : public ::testing::TestWithParam<Broken> {};
 
 TEST_P(SavedGameBroken, IsRefusedWithOneMessageAndNothingChanges) {
