@@ -6,6 +6,7 @@
 #include <cstring>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace qv {
@@ -74,6 +75,9 @@ std::optional<std::string> ReadWholeFile(const std::filesystem::path& path) {
   const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (fd < 0) return std::nullopt;
   std::string content;
+  // Sized once from the file's length, so a long journal is not copied as it grows.
+  struct stat info {};
+  if (fstat(fd, &info) == 0 && S_ISREG(info.st_mode)) content.reserve(static_cast<size_t>(info.st_size));
   char buffer[65536];
   ssize_t got;
   while ((got = read(fd, buffer, sizeof buffer)) != 0) {

@@ -157,7 +157,10 @@ std::string FileDateOf(const std::string& fName) {
 
 }  // namespace
 
-std::string NumberField(long long v) { return v < 0 ? std::to_string(v) + " " : " " + std::to_string(v) + " "; }
+std::string NumberField(long long v) {
+  std::string field = v < 0 ? "" : " ";
+  return field.append(std::to_string(v)).append(1, ' ');
+}
 
 std::string GameNoField(const GameNo& no) {
   if (no.IsTyped()) return no.Text();
