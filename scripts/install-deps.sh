@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# What Quorvale needs to build and test on Debian 12. Run as root (or through sudo).
+# Installs what Quorvale needs to build and test on Debian 12 (the list is packages.txt).
+# Run as root, or as a user who may use sudo.
 set -euo pipefail
 SUDO=""
 [ "$(id -u)" -eq 0 ] || SUDO="sudo"
 export DEBIAN_FRONTEND=noninteractive
 $SUDO apt-get update
-$SUDO apt-get install -y --no-install-recommends \
-  build-essential cmake libgtest-dev libbenchmark-dev
+$SUDO apt-get install -y --no-install-recommends $(cat "$(dirname "$0")/packages.txt")
