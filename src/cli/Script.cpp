@@ -1,12 +1,14 @@
 #include "Script.h"
 
 #include <charconv>
+#include <map>
 #include <istream>
 #include <ostream>
 
 #include "CliSurface.h"
 #include "StateJson.h"
 #include "engine/Pointer.h"
+#include "session/Commands.h"
 #include "session/Program.h"
 
 namespace qv {
@@ -51,14 +53,7 @@ std::vector<std::string> SplitWords(const std::string& line) {
 }
 
 void ReplayToEnd(Program& app) {
-  auto& window = app.surface.window;
-  while (window.TimerEnabled(Timer::Forward)) {
-    int speed = app.cRegistry.Get(setting::ReplaySpeed);
-    if (!app.cEngine.Redo(speed)) {
-      window.EnableTimer(Timer::Forward, false);
-      window.EnableTimer(Timer::Backward, false);
-    }
-  }
+  while (app.surface.window.TimerEnabled(Timer::Forward)) ReplayTick(app, true);
 }
 
 int ScriptRunner::Run(std::istream& script) {
@@ -87,100 +82,71 @@ CommandError ScriptRunner::FromDialogs(ExitStatus status, const std::string& fal
 
 CommandError ScriptRunner::Execute(const std::vector<std::string>& w, bool& finished) {
   const std::string& cmd = w[0];
-  // Every command stops a replay first, as every command of the window does.
-  app_.surface.window.EnableTimer(Timer::Forward, false);
-  app_.surface.window.EnableTimer(Timer::Backward, false);
   if (cmd == "drag") return Drag(w, true);
   if (cmd == "dragxy") return Drag(w, false);
   if (cmd == "dblclick") return DoubleClick(w);
-  if (cmd == "stock") return w.size() == 1 ? Stock() : Usage("stock takes no arguments");
-  if (cmd == "undo" || cmd == "redo" || cmd == "undoall" || cmd == "redoall" || cmd == "moveto")
-    return Journal(cmd, w);
-  if (cmd == "show" || cmd == "title" || cmd == "exit") {
-    if (w.size() != 1) return Usage(cmd + " takes no arguments");
-    if (cmd == "show") out_ << StateJson(app_) << "\n";
-    if (cmd == "title") {
-      app_.cGamePlay.Update_Title();
-      out_ << app_.cGamePlay.Title() << "\n";
-    }
-    if (cmd == "exit") {
-      app_.cGamePlay.Unload();
-      finished = true;
-    }
-    return {};
-  }
-  return Session(cmd, w);
-}
-
-CommandError ScriptRunner::Session(const std::string& cmd, const std::vector<std::string>& w) {
-  auto& gp = app_.cGamePlay;
-  const bool running = gp.Game_Status() == 1, onTable = gp.Game_Status() > 0;
-  if (cmd == "new" || cmd == "number") {
-    if (w.size() != 3) return Usage(cmd + " takes a game and a number");
-    const bool typed = cmd == "number";
-    if (typed ? !GameNo::IsDigitText(w[2]) : !IsRandomStyleNumber(w[2]))
-      return Usage(typed ? "a typed game number is digits with at most one '.'"
-                         : "a game number is a whole number of 1 to 15 digits");
-    const GameNo no = typed ? GameNo::Typed(w[2]) : GameNo::Number(std::to_string(std::stoull(w[2])));
-    if (!gp.PlayNumber(w[1], no)) return FromDialogs(kUsageError, "the game cannot be dealt");
-    return {};
-  }
-  if (cmd == "tick") {
-    int n = 0;
-    if (w.size() != 2 || !ToInt(w[1], n) || n < 0) return Usage("tick takes a number of seconds");
-    for (int i = 0; i < n && app_.surface.window.TimerEnabled(Timer::Game); ++i) gp.TickGame();
-    return {};
-  }
-  if (cmd == "open" || cmd == "save") {
-    if (w.size() != 2) return Usage(cmd + " takes a path");
-    if (cmd == "open") {
-      if (!gp.PlayFile(w[1], true)) return FromDialogs(kFileError, "the saved game cannot be played");
-      ReplayToEnd(app_);
-      return {};
-    }
-    std::string error;
-    if (running && !app_.cEngine.SavetoFile(w[1], &error))
-      return {kFileError, "the game could not be saved to \"" + w[1] + "\": " + error};
-    return {};
-  }
+  if (cmd == "new" || cmd == "number") return Deal(w);
+  if (cmd == "tick" || cmd == "moveto") return WithNumber(w);
+  if (cmd == "open" || cmd == "save") return WithPath(w);
   if (w.size() != 1) return Usage(cmd + " takes no arguments");
-  if (cmd == "pause") {
-    if (running) {
-      gp.PauseGame(!gp.PauseStatus());
-      app_.cSound.PauseGame();
-    }
-  } else if (cmd == "restart") {
-    if (running && !gp.Restart()) return FromDialogs(kUsageError, "the game cannot be dealt again");
-  } else if (cmd == "close") {
-    if (onTable) {
-      if (running) gp.EndGame(0, false);
-      else gp.ClearArea();
-      app_.cSound.CloseGame();
-    }
+  // Commands of the window's menus: one that would be greyed does nothing.
+  static const std::map<std::string, std::string> kMenuKeys{
+      {"undo", "Undo"},   {"redo", "Redo"},       {"undoall", "UndoAll"}, {"redoall", "RedoAll"},
+      {"pause", "Pause"}, {"restart", "Restart"}, {"close", "Close"}};
+  if (auto key = kMenuKeys.find(cmd); key != kMenuKeys.end()) {
+    if (CommandEnabled(app_, key->second)) ExecCommand(app_, key->second);
+    return {};
+  }
+  if (cmd == "stock") {
+    if (app_.cPlay.table().Exists() && app_.cPlay.GetTop(1, 0) >= 0) ClickCard(app_, app_.cPlay.GetTopPicID(1, 0));
+  } else if (cmd == "show") {
+    out_ << StateJson(app_) << "\n";
+  } else if (cmd == "title") {
+    app_.cGamePlay.Update_Title();
+    out_ << app_.cGamePlay.Title() << "\n";
+  } else if (cmd == "exit") {
+    app_.cGamePlay.Unload();
+    finished = true;
   } else {
     return Usage("unknown command \"" + cmd + "\"");
   }
   return {};
 }
 
-CommandError ScriptRunner::Journal(const std::string& cmd, const std::vector<std::string>& w) {
-  auto& engine = app_.cEngine;
-  const bool onTable = app_.cGamePlay.Game_Status() > 0;
-  if (cmd == "moveto") {
-    int n = 0;
-    if (w.size() != 2 || !ToInt(w[1], n)) return Usage("moveto takes a journal position");
-    if (onTable && engine.MoveStarted()) engine.MoveTo(n);
+CommandError ScriptRunner::Deal(const std::vector<std::string>& w) {
+  const std::string& cmd = w[0];
+  if (w.size() != 3) return Usage(cmd + " takes a game and a number");
+  const bool typed = cmd == "number";
+  if (typed ? !GameNo::IsDigitText(w[2]) : !IsRandomStyleNumber(w[2]))
+    return Usage(typed ? "a typed game number is digits with at most one '.'"
+                       : "a game number is a whole number of 1 to 15 digits");
+  const GameNo no = typed ? GameNo::Typed(w[2]) : GameNo::Number(std::to_string(std::stoull(w[2])));
+  if (!app_.cGamePlay.PlayNumber(w[1], no)) return FromDialogs(kUsageError, "the game cannot be dealt");
+  return {};
+}
+
+CommandError ScriptRunner::WithNumber(const std::vector<std::string>& w) {
+  int n = 0;
+  if (w.size() != 2 || !ToInt(w[1], n) || (w[0] == "tick" && n < 0))
+    return Usage(w[0] == "tick" ? "tick takes a number of seconds" : "moveto takes a journal position");
+  if (w[0] == "moveto") {
+    if (CommandEnabled(app_, "MovesMan")) app_.cEngine.MoveTo(n);
     return {};
   }
-  if (w.size() != 1) return Usage(cmd + " takes no arguments");
-  const bool back = cmd == "undo" || cmd == "undoall";
-  if (!onTable || !(back ? engine.UndoPossible() : engine.RedoPossible())) return {};
-  const bool all = cmd.ends_with("all");
-  int speed = app_.cRegistry.Get(all ? setting::UndoallSpeed : setting::UndoSpeed);
-  if (cmd == "undo") engine.Undo(speed);
-  else if (cmd == "redo") engine.Redo(speed);
-  else if (cmd == "undoall") engine.UndoAll(speed);
-  else engine.RedoAll(speed);
+  for (int i = 0; i < n && app_.surface.window.TimerEnabled(Timer::Game); ++i) app_.cGamePlay.TickGame();
+  return {};
+}
+
+CommandError ScriptRunner::WithPath(const std::vector<std::string>& w) {
+  if (w.size() != 2) return Usage(w[0] + " takes a path");
+  if (w[0] == "open") {
+    if (!app_.cGamePlay.PlayFile(w[1], true)) return FromDialogs(kFileError, "the saved game cannot be played");
+    ReplayToEnd(app_);
+    return {};
+  }
+  std::string error;
+  if (CommandEnabled(app_, "Save") && !app_.cEngine.SavetoFile(w[1], &error))
+    return {kFileError, "the game could not be saved to \"" + w[1] + "\": " + error};
   return {};
 }
 
@@ -224,11 +190,6 @@ CommandError ScriptRunner::DoubleClick(const std::vector<std::string>& w) {
   int pic = 0;
   if (auto e = CardAt(app_, w, pic); e.status != kOk) return e;
   DoubleClickCard(app_, pic);
-  return {};
-}
-
-CommandError ScriptRunner::Stock() {
-  if (app_.cPlay.table().Exists() && app_.cPlay.GetTop(1, 0) >= 0) ClickCard(app_, app_.cPlay.GetTopPicID(1, 0));
   return {};
 }
 

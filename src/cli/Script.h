@@ -33,9 +33,9 @@ class ScriptRunner {
  private:
   CommandError Drag(const std::vector<std::string>& w, bool toPile);
   CommandError DoubleClick(const std::vector<std::string>& w);
-  CommandError Stock();
-  CommandError Journal(const std::string& cmd, const std::vector<std::string>& w);
-  CommandError Session(const std::string& cmd, const std::vector<std::string>& w);
+  CommandError Deal(const std::vector<std::string>& w);
+  CommandError WithNumber(const std::vector<std::string>& w);
+  CommandError WithPath(const std::vector<std::string>& w);
   CommandError FromDialogs(ExitStatus status, const std::string& fallback);
 
   Program& app_;

@@ -6,6 +6,7 @@
 #include "engine/Rules.h"
 #include "engine/mStudio.h"
 #include "session/Program.h"
+#include "settings/Settings.h"
 
 namespace qv {
 
@@ -15,7 +16,7 @@ constexpr int kSetSize = 13;
 }  // namespace
 
 void cPlay::Init(const GameNo& no) {
-  backPic_ = app_.cImages.CardBack(app_.cRegistry.Get(setting::DeckIndex));
+  backPic_ = app_.cImages.CardBack(DeckIndex(app_));
   table_.Make(app_.cGames, no);
   LoadCards();
   SetupGoal();
@@ -131,7 +132,7 @@ void cPlay::ChangeFaceMode(int mPicID, bool FMode) {
 }
 
 void cPlay::ChangeDecks() {
-  backPic_ = app_.cImages.CardBack(app_.cRegistry.Get(setting::DeckIndex));
+  backPic_ = app_.cImages.CardBack(DeckIndex(app_));
   for (int i = table_.TotalCards() - 1; i >= 0; --i)
     if (!table_.Card(i).FaceMode) app_.surface.sprites.SetPicture(Sprites::PicCD, i, backPic_);
 }

@@ -17,6 +17,11 @@ Program::Program(Surface s, ISettingsStore& st, PlatformFolders f)
       cPlay(*this),
       rng(static_cast<uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count())) {
   FillProductData(cData);
+  cRegistry.onFirstRefusal = [this] {
+    MsgBox("Your settings cannot be saved at the moment, so changes will not be kept for the next "
+           "start. The game goes on.",
+           MsgStyle::Information);
+  };
 }
 
 Answer Program::MsgBox(const std::string& text, MsgStyle style) {

@@ -17,6 +17,12 @@ class IWindow {
   virtual void ShowPaused(bool paused) = 0;
   // All cards are on the foundations: the finish dialog opens here, blocking.
   virtual void ShowFinish() = 0;
+  // The enabled state of "Sto&p" and its button, which the replay keeps itself.
+  virtual void SetStopEnabled(bool enabled) = 0;
+  // Opens the window of a command key (a dialog, the help), blocking unless it says not.
+  virtual void OpenWindow(const std::string& key) = 0;
+  // Closes the main window, which stops the program.
+  virtual void CloseMain() = 0;
 };
 
 }  // namespace qv

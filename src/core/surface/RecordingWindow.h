@@ -2,6 +2,7 @@
 
 #include <array>
 #include <string>
+#include <vector>
 
 #include "surface/IWindow.h"
 
@@ -15,11 +16,17 @@ class RecordingWindow : public IWindow {
   bool TimerEnabled(Timer t) const override { return timers[static_cast<int>(t)]; }
   void ShowPaused(bool p) override { pausedShown = p; }
   void ShowFinish() override { ++finishShown; }
+  void SetStopEnabled(bool e) override { stopEnabled = e; }
+  void OpenWindow(const std::string& key) override { opened.push_back(key); }
+  void CloseMain() override { closed = true; }
 
   std::string title;
   std::array<bool, 6> timers{true, true, false, false, false, false};
   bool pausedShown = false;
   int finishShown = 0;
+  bool stopEnabled = false;
+  std::vector<std::string> opened;
+  bool closed = false;
 };
 
 }  // namespace qv

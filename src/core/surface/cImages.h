@@ -1,11 +1,15 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "surface/Picture.h"
 
 namespace qv {
 
-// The picture library as the table sees it: every picture is named by a token, and
-// the desktop program paints the token. Nothing here needs a display.
+// The picture library as the table sees it: every picture is named by a token, and the
+// desktop program paints the token. The catalogue (how many decks, in which groups) is
+// the library's own and lives here, so the settings can mend a stored deck without a display.
 class cImages {
  public:
   Picture CardFace(int n) const { return {Picture::Face, static_cast<int16_t>(n)}; }
@@ -13,6 +17,12 @@ class cImages {
   Picture CardBack(int deckIndex) const { return {Picture::Back, static_cast<int16_t>(deckIndex)}; }
   Picture PileMarker(int n) const { return {Picture::Marker, static_cast<int16_t>(n)}; }
   void EndMarkers() {}
+
+  // Decks 1 to DeckCount, each in a group; deck 7 is the default.
+  int DeckCount() const;
+  int DeckGroup(int index) const;
+  // The group names, with their count as text in element 0.
+  std::vector<std::string> DeckGroups() const;
 };
 
 }  // namespace qv

@@ -1,0 +1,43 @@
+#include "session/FirstGame.h"
+
+#include "session/Program.h"
+#include "settings/SettingKeys.h"
+
+namespace qv {
+
+namespace {
+
+constexpr const char* kQuestion =
+    "An unfinished game from previous session exists! If you start this game then you will loose the "
+    "previous Game.\r\nClick 'Yes' to start this game or 'No' to start the previous game.";
+
+// Plays the unfinished game; one that is missing or does not read is given up (its file
+// stays where it is) and a new game is dealt instead.
+void ResumeUnfinished(Program& app) {
+  if (app.cGamePlay.PlayFile(app.cData.UnFinFile(), false)) return;
+  app.cRegistry.Set(setting::UnFin, 0);
+  app.cGamePlay.PlayRandom();
+}
+
+}  // namespace
+
+void FirstGame(Program& app, const std::string& path) {
+  const bool unfinished = app.cRegistry.Get(setting::UnFin) == 1;
+  if (path.empty()) {
+    // The selection dialog comes with the game lists; until then a new deal of the last game.
+    if (unfinished) ResumeUnfinished(app);
+    else app.cGamePlay.PlayRandom();
+    return;
+  }
+  if (!unfinished) {
+    if (!app.cGamePlay.PlayFile(path, true)) app.cGamePlay.PlayRandom();
+    return;
+  }
+  if (app.MsgBox(kQuestion, MsgStyle::YesNoQuestion) == Answer::Yes && app.cGamePlay.PlayFile(path, true)) {
+    app.cRegistry.Set(setting::UnFin, 0);
+    return;
+  }
+  ResumeUnfinished(app);
+}
+
+}  // namespace qv
