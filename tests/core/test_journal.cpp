@@ -145,25 +145,7 @@ TEST(Journal, TotalGoalCardsCountsTheFoundations) {
   test::PlayWithRules(t, kAnyCard);
   EXPECT_EQ(t->cEngine.TotalGoalCards(), 0);
   test::DealRows(t, 6);
-  // Any thirteen cards with an Ace on top are a set here: make one on pile 0.
-  int sets = 0;
-  for (int guard = 0; guard < 400 && sets == 0; ++guard) {
-    sets = t->cEngine.TotalGoalCards() / 13;
-    if (sets) break;
-    // Bring an Ace from the top of another pile onto pile 0 once it is tall enough.
-    for (int p = 1; p < 10; ++p) {
-      if (t->cPlay.GetTop(0, p) < 0) continue;
-      const int top = t->cPlay.GetTopPicID(0, p);
-      if (t->cPlay.Num(top) == 0 && t->cPlay.GetTop(0, 0) >= 11) {
-        DragCardToPile(*t.app, top, 0);
-        break;
-      }
-      if (t->cPlay.Num(top) != 0 && t->cPlay.GetTop(0, p) > 0) {
-        DragCardToPile(*t.app, top, 0);
-        break;
-      }
-    }
-  }
+  ASSERT_TRUE(test::CompleteASet(t));
   EXPECT_EQ(t->cEngine.TotalGoalCards(), 13);
   // The set's 13 records are one step.
   int speed = 0;

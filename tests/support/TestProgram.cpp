@@ -79,6 +79,34 @@ bool MakeAnyLegalMove(TestProgram& t) {
   return false;
 }
 
+bool CompleteASet(TestProgram& t) {
+  const cPlay& play = t->cPlay;
+  const int piles = t->cGames.Piles(0);
+  auto height = [&](int p) { return play.GetTop(0, p) + 1; };
+  auto aceOnTop = [&](int p) { return height(p) > 0 && play.Num(play.GetTopPicID(0, p)) == 0; };
+  int ace = -1;
+  for (int guard = 0; guard < 200 && ace < 0; ++guard) {
+    for (int p = 0; p < piles && ace < 0; ++p)
+      if (aceOnTop(p)) ace = p;
+    if (ace >= 0) break;
+    // Dig: move the top card of the first pile that hides an Ace onto its neighbour.
+    for (int p = 0; p < piles; ++p)
+      for (int q = 0; q < height(p); ++q)
+        if (play.Num(play.GetPicID(0, p, q)) == 0) {
+          DragCardToPile(*t.app, play.GetTopPicID(0, p), (p + 1) % piles);
+          p = piles;
+          break;
+        }
+  }
+  if (ace < 0) return false;
+  const int target = (ace + 1) % piles;
+  for (int p = 0, guard = 0; height(target) < 12 && guard < 500; p = (p + 1) % piles, ++guard)
+    if (p != ace && p != target && height(p) > 0 && !aceOnTop(p)) DragCardToPile(*t.app, play.GetTopPicID(0, p), target);
+  const int before = t->cEngine.TotalGoalCards();
+  DragCardToPile(*t.app, play.GetTopPicID(0, ace), target);
+  return t->cEngine.TotalGoalCards() == before + 13;
+}
+
 std::vector<int> Snapshot(const Program& app) {
   std::vector<int> out;
   const Table& table = app.cPlay.table();

@@ -73,6 +73,9 @@ void DealRows(TestProgram& t, int n);
 // Makes the first legal drag of a top card (or group) onto another tableau pile that it
 // finds, pile by pile; false when there is none.
 bool MakeAnyLegalMove(TestProgram& t);
+// Under "Any Card" rules (any thirteen cards with an Ace on top are a set), gathers twelve
+// cards on one pile and lays an Ace on it, so a set leaves; false if no Ace could be found.
+bool CompleteASet(TestProgram& t);
 // Where every card lies, with its face: two tables are equal when these are.
 std::vector<int> Snapshot(const Program& app);
 
