@@ -12,6 +12,10 @@ class cSound {
   void Redo() {}
   void PauseGame() {}
   void CloseGame() {}
+  void Toolbar() {}
+  void Animation() {}
+  void Deck() {}
+  void Options() {}
 };
 
 }  // namespace qv

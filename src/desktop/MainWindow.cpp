@@ -1,0 +1,163 @@
+#include "MainWindow.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QToolBar>
+
+#include "CardPainter.h"
+#include "QtSprites.h"
+#include "TableView.h"
+#include "Windows.h"
+#include "session/CommandTable.h"
+#include "session/Commands.h"
+#include "session/Program.h"
+#include "session/StartUp.h"
+
+namespace qv {
+
+namespace {
+constexpr int kScreenWidth = 12615;  // the layout's width plus one card, in twips
+constexpr std::array<int, 6> kIntervals{100, 500, 1000, 500, 500, 60000};
+}  // namespace
+
+MainWindow::MainWindow(ISettingsStore& store, QWidget* parent)
+    : QMainWindow(parent), view_(new TableView(&scene_, this)) {
+  scene_.setItemIndexMethod(QGraphicsScene::NoIndex);  // cards move all the time
+  scene_.setBackgroundBrush(QColor(0, 64, 0));
+  setCentralWidget(view_);
+  sprites_ = std::make_unique<QtSprites>(scene_, *view_);
+  boxes_.SetParent(this);
+  for (size_t t = 0; t < timers_.size(); ++t) {
+    timers_[t] = std::make_unique<QTimer>();
+    timers_[t]->setInterval(kIntervals[t]);
+  }
+  app_ = std::make_unique<Program>(Surface{*sprites_, *this, boxes_, clock_}, store, PlatformFolders::FromEnvironment());
+  app_->ScreenWidth = kScreenWidth;
+  view_->Attach(app_.get(), sprites_.get());
+  windowOpener = [this](const QString& key) { OpenProgramWindow(*this, key); };
+
+  connect(&TimerOf(Timer::Main), &QTimer::timeout, this, [this] {
+    UpdateCommands();
+    view_->FitTable();
+  });
+  connect(&TimerOf(Timer::Time), &QTimer::timeout, this, [this] { app_->cGamePlay.Update_Title(); });
+  connect(&TimerOf(Timer::Game), &QTimer::timeout, this, [this] { app_->cGamePlay.TickGame(); });
+  connect(&TimerOf(Timer::Forward), &QTimer::timeout, this, [this] { ReplayTick(*app_, true); });
+  connect(&TimerOf(Timer::Backward), &QTimer::timeout, this, [this] { ReplayTick(*app_, false); });
+  BuildMenus();
+  BuildToolbar();
+  resize(1280, 800);
+}
+
+MainWindow::~MainWindow() {
+  // The table's items belong to the scene; the sprites go before it.
+  sprites_.reset();
+}
+
+void MainWindow::Load() {
+  setWindowTitle(QString::fromStdString(app_->cData.ProdName()));
+  StartUp(*app_);
+  RefreshToolbar();
+  UpdateCommands();
+  TimerOf(Timer::Main).start();
+  TimerOf(Timer::Time).start();
+}
+
+void MainWindow::BuildMenus() {
+  for (const MenuDef& menu : MainMenus()) {
+    QMenu* m = menuBar()->addMenu(QString::fromUtf8(menu.caption));
+    m->setObjectName(menu.name);
+    int next = 1;
+    for (const MenuEntry& entry : menu.entries) {
+      for (; next < entry.index; ++next) m->addSeparator();
+      ++next;
+      const QString key = QString::fromUtf8(entry.key);
+      if (key == "Recent") {
+        // The recent lists fill these sub-menus; until they do, each says so.
+        QMenu* sub = m->addMenu(CommandIcon(key), QString::fromUtf8(entry.caption));
+        sub->addAction("None")->setEnabled(false);
+        continue;
+      }
+      QAction* a = m->addAction(CommandIcon(key), QString::fromUtf8(entry.caption));
+      a->setObjectName(key);
+      a->setShortcut(QKeySequence(QString::fromUtf8(entry.shortcut)));
+      a->setCheckable(key == "AutoPlay" || key == "Pause" || key == "ViewTool");
+      connect(a, &QAction::triggered, this, [this, key] { ExecCommand(*app_, key.toStdString()); });
+      actions_.insert(key, a);
+    }
+    for (; next <= menu.size; ++next) m->addSeparator();
+  }
+}
+
+void MainWindow::BuildToolbar() {
+  toolbar_ = addToolBar("Toolbar");
+  toolbar_->setObjectName("Toolbar1");
+  toolbar_->setMovable(false);
+  toolbar_->setIconSize(QSize(24, 24));
+  for (const ToolbarButtonDef& b : ToolbarLayout()) {
+    const QString key = QString::fromUtf8(b.key);
+    QAction* a = key.startsWith("Sep") ? toolbar_->addSeparator() : toolbar_->addAction(CommandIcon(key), b.tooltip);
+    a->setObjectName("tb" + key);
+    if (!key.startsWith("Sep")) {
+      a->setToolTip(QString::fromUtf8(b.tooltip));
+      a->setCheckable(key == "AutoPlay" || key == "Pause");
+      connect(a, &QAction::triggered, this, [this, key] { ExecCommand(*app_, key.toStdString()); });
+    }
+    toolbarItems_.insert(key, a);
+  }
+}
+
+void MainWindow::RefreshToolbar() {
+  for (const ToolbarButtonDef& b : ToolbarLayout())
+    toolbarItems_.value(QString::fromUtf8(b.key))->setVisible(ToolbarItemShown(app_->cRegistry, b));
+}
+
+void MainWindow::UpdateCommands() {
+  // Only what changed is set: QAction ignores a value it already has.
+  for (auto it = actions_.cbegin(); it != actions_.cend(); ++it) {
+    if (it.key() == "Stop") continue;  // kept by the replay
+    const bool enabled = CommandEnabled(*app_, it.key().toStdString());
+    it.value()->setEnabled(enabled);
+    if (QAction* button = toolbarItems_.value(it.key())) button->setEnabled(enabled);
+  }
+  actions_.value("AutoPlay")->setChecked(AutoPlayChecked(*app_));
+  toolbarItems_.value("AutoPlay")->setChecked(AutoPlayPressed(*app_));
+  actions_.value("ViewTool")->setChecked(ToolbarChecked(*app_));
+}
+
+void MainWindow::SetTitle(const std::string& title) {
+  const QString t = QString::fromStdString(title);
+  if (windowTitle() != t) setWindowTitle(t);
+}
+
+void MainWindow::EnableTimer(Timer t, bool on) {
+  QTimer& timer = TimerOf(t);
+  if (on && !timer.isActive()) timer.start();
+  if (!on) timer.stop();
+}
+
+bool MainWindow::TimerEnabled(Timer t) const { return TimerOf(t).isActive(); }
+
+void MainWindow::ShowPaused(bool paused) {
+  actions_.value("Pause")->setChecked(paused);
+  toolbarItems_.value("Pause")->setChecked(paused);
+}
+
+void MainWindow::SetStopEnabled(bool enabled) {
+  actions_.value("Stop")->setEnabled(enabled);
+  toolbarItems_.value("Stop")->setEnabled(enabled);
+}
+
+void MainWindow::OpenWindow(const std::string& key) { windowOpener(QString::fromStdString(key)); }
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  // The stop cannot be refused: the game on the table is kept or ended, then all goes.
+  if (!stopped_) {
+    stopped_ = true;
+    for (auto& timer : timers_) timer->stop();
+    app_->cGamePlay.Unload();
+  }
+  event->accept();
+}
+
+}  // namespace qv

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QGraphicsScene>
+#include <QHash>
+#include <QMainWindow>
+#include <QTimer>
+#include <array>
+#include <functional>
+#include <memory>
+
+#include "QtMessageBoxes.h"
+#include "surface/IClock.h"
+#include "surface/IWindow.h"
+
+class QToolBar;
+
+namespace qv {
+
+class ISettingsStore;
+class Program;
+class QtSprites;
+class TableView;
+
+// The one main window: the table, the menus and toolbar built from the command table,
+// the timers, and the window's side of the surface the core asks for.
+class MainWindow : public QMainWindow, public IWindow {
+  Q_OBJECT
+ public:
+  explicit MainWindow(ISettingsStore& store, QWidget* parent = nullptr);
+  ~MainWindow() override;
+
+  Program& app() { return *app_; }
+  TableView& view() { return *view_; }
+  QtSprites& sprites() { return *sprites_; }
+  // The load step: title, start-up, menus and toolbar. FirstGame follows it.
+  void Load();
+  QAction* Action(const QString& key) const { return actions_.value(key); }
+  QToolBar* Toolbar() const { return toolbar_; }
+  // Applies the toolbar settings (after the Customize Toolbar dialog changes them).
+  void RefreshToolbar();
+  // Sets every command's enabled state and marks; the tick of the main timer.
+  void UpdateCommands();
+  // Opens the window of a key; tests put their own opener here to see which key it was.
+  std::function<void(const QString&)> windowOpener;
+
+  // The surface the core asks for.
+  void SetTitle(const std::string& title) override;
+  void EnableTimer(Timer t, bool on) override;
+  bool TimerEnabled(Timer t) const override;
+  void ShowPaused(bool paused) override;
+  void ShowFinish() override {}
+  void SetStopEnabled(bool enabled) override;
+  void OpenWindow(const std::string& key) override;
+  void CloseMain() override { close(); }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void BuildMenus();
+  void BuildToolbar();
+  QTimer& TimerOf(Timer t) const { return *timers_[static_cast<int>(t)]; }
+
+  QGraphicsScene scene_;
+  TableView* view_;
+  std::unique_ptr<QtSprites> sprites_;
+  QtMessageBoxes boxes_;
+  SystemClock clock_;
+  std::array<std::unique_ptr<QTimer>, 6> timers_;
+  std::unique_ptr<Program> app_;
+  QHash<QString, QAction*> actions_;
+  QToolBar* toolbar_ = nullptr;
+  QHash<QString, QAction*> toolbarItems_;
+  bool stopped_ = false;
+};
+
+}  // namespace qv

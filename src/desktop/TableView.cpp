@@ -1,0 +1,84 @@
+#include "TableView.h"
+
+#include <QGraphicsItem>
+#include <QMouseEvent>
+#include <algorithm>
+
+#include "QtSprites.h"
+#include "engine/Pointer.h"
+#include "session/Program.h"
+
+namespace qv {
+
+namespace {
+constexpr double kTableWidth = 12615;   // the layout's width plus one card: half a card of margin
+constexpr double kMinTableHeight = 6400;  // a deal with room for its piles to grow
+constexpr double kBottomMargin = 300;
+}  // namespace
+
+TableView::TableView(QGraphicsScene* scene, QWidget* parent) : QGraphicsView(scene, parent) {
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+  setFrameShape(QFrame::NoFrame);
+  setViewportUpdateMode(QGraphicsView::MinimalViewportUpdate);
+  setCacheMode(QGraphicsView::CacheBackground);
+  setBackgroundBrush(QColor(0, 64, 0));
+  setMouseTracking(false);
+}
+
+void TableView::FitTable() {
+  if (!sprites_ || viewport()->width() <= 0) return;
+  const double lowest = std::max(kMinTableHeight, scene()->itemsBoundingRect().bottom() + kBottomMargin);
+  const double byWidth = viewport()->width() / kTableWidth;
+  const double byHeight = viewport()->height() / lowest;
+  const double zoom = std::min(byWidth, byHeight);
+  // Small changes of height are absorbed, so a growing pile does not repaint every picture.
+  if (zoom_ > 0 && std::abs(zoom - zoom_) / zoom_ < 0.02 && zoom <= zoom_) return;
+  zoom_ = zoom;
+  setTransform(QTransform::fromScale(zoom, zoom));
+  // The table keeps its width in twips; when its height rules, it stands centred.
+  setSceneRect(0, 0, kTableWidth, viewport()->height() / zoom);
+  sprites_->SetZoom(zoom, devicePixelRatioF());
+}
+
+void TableView::resizeEvent(QResizeEvent* event) {
+  QGraphicsView::resizeEvent(event);
+  zoom_ = 0;
+  FitTable();
+}
+
+QPointF TableView::InSprite(int card, QMouseEvent* event) const {
+  const QPointF scenePos = mapToScene(event->position().toPoint());
+  return scenePos - QPointF(sprites_->Left(Sprites::PicCD, card), sprites_->Top(Sprites::PicCD, card));
+}
+
+void TableView::mousePressEvent(QMouseEvent* event) {
+  if (!app_) return;
+  pressed_ = sprites_->CardAt(mapToScene(event->position().toPoint()));
+  if (pressed_ < 0) return;
+  const QPointF p = InSprite(pressed_, event);
+  PointerPressed(*app_, pressed_, p.x(), p.y());
+}
+
+void TableView::mouseMoveEvent(QMouseEvent* event) {
+  if (!app_ || pressed_ < 0) return;
+  const QPointF p = InSprite(pressed_, event);
+  PointerMoved(*app_, pressed_, p.x(), p.y());
+}
+
+void TableView::mouseReleaseEvent(QMouseEvent*) {
+  if (!app_ || pressed_ < 0) return;
+  const int card = pressed_;
+  pressed_ = -1;
+  PointerReleased(*app_, card);
+  FitTable();
+}
+
+void TableView::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (!app_) return;
+  const int card = sprites_->CardAt(mapToScene(event->position().toPoint()));
+  if (card >= 0) PointerDoubleClicked(*app_, card);
+}
+
+}  // namespace qv

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QGraphicsView>
+
+namespace qv {
+
+class Program;
+class QtSprites;
+
+// The view of the table. It scales the whole scene with one zoom factor, so the table's
+// width fills the window and every card of a long pile stays in sight without scrolling,
+// and it hands the pointer's events to the table in twips.
+class TableView : public QGraphicsView {
+  Q_OBJECT
+ public:
+  TableView(QGraphicsScene* scene, QWidget* parent = nullptr);
+  void Attach(Program* app, QtSprites* sprites) { app_ = app, sprites_ = sprites; }
+  // Fits the zoom to the window and to the lowest card on the table.
+  void FitTable();
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+ private:
+  QPointF InSprite(int card, QMouseEvent* event) const;
+
+  Program* app_ = nullptr;
+  QtSprites* sprites_ = nullptr;
+  int pressed_ = -1;  // the sprite the press went to; moves and the release follow it
+  double zoom_ = 0;
+};
+
+}  // namespace qv

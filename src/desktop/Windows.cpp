@@ -1,0 +1,64 @@
+#include "Windows.h"
+
+#include <QDialog>
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QTextBrowser>
+#include <QVBoxLayout>
+
+#include "AnimationDialog.h"
+#include "CardDeckDialog.h"
+#include "MainWindow.h"
+#include "OptionsDialog.h"
+#include "ToolbarDialog.h"
+#include "session/Program.h"
+
+namespace qv {
+
+namespace {
+
+void ShowAbout(MainWindow& main) {
+  QDialog about(&main);
+  about.setWindowTitle("About " + QString::fromStdString(main.app().cData.ProdName()));
+  auto* layout = new QVBoxLayout(&about);
+  auto* name = new QLabel(QString::fromStdString(main.app().cData.ProdNameX()));
+  QFont big = name->font();
+  big.setPointSizeF(big.pointSizeF() * 2);
+  big.setBold(true);
+  name->setFont(big);
+  layout->addWidget(name);
+  layout->addWidget(new QLabel("Version " + QString::fromStdString(main.app().cData.Version())));
+  layout->addWidget(new QLabel("Spider solitaire: seven two-deck games and your own."));
+  auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
+  QObject::connect(buttons, &QDialogButtonBox::accepted, &about, &QDialog::accept);
+  layout->addWidget(buttons);
+  about.exec();
+}
+
+// The program's own help, in a window beside the table that does not block play.
+void ShowContents(MainWindow& main) {
+  auto* help = main.findChild<QTextBrowser*>("helpContents");
+  if (!help) {
+    help = new QTextBrowser(&main);
+    help->setObjectName("helpContents");
+    help->setWindowFlag(Qt::Window);
+    help->setWindowTitle(QString::fromStdString(main.app().cData.ProdName()) + " Help");
+    help->setSource(QUrl("qrc:/help/index.html"));
+    help->resize(640, 720);
+  }
+  help->show();
+  help->raise();
+}
+
+}  // namespace
+
+void OpenProgramWindow(MainWindow& main, const QString& key) {
+  if (key == "About") ShowAbout(main);
+  else if (key == "Contents") ShowContents(main);
+  else if (key == "Toolbar") ToolbarDialog(main).exec();
+  else if (key == "Animation") AnimationDialog(main.app(), &main).exec();
+  else if (key == "Deck") CardDeckDialog(main.app(), &main).exec();
+  else if (key == "Options") OptionsDialog(main.app(), &main).exec();
+}
+
+}  // namespace qv

@@ -1,0 +1,139 @@
+// The painted pictures: right size, every card and deck told apart, red and black kept apart.
+#include <QIcon>
+#include <QImage>
+#include <QtTest>
+
+#include <cmath>
+
+#include "CardPainter.h"
+
+using qv::CardPainter;
+using qv::Picture;
+
+namespace {
+
+QImage Paint(Picture::Kind kind, int number, QSize size = {45, 61}, qreal dpr = 1) {
+  return CardPainter::Paint({kind, static_cast<int16_t>(number)}, size, dpr).toImage().convertToFormat(
+      QImage::Format_ARGB32);
+}
+
+// The first two pictures that look the same, or an empty string.
+QString FirstTwins(const QList<QImage>& images, const QString& what) {
+  for (int i = 0; i < images.size(); ++i)
+    for (int j = i + 1; j < images.size(); ++j)
+      if (images[i] == images[j]) return QString("%1 %2 and %3 look the same").arg(what).arg(i).arg(j);
+  return {};
+}
+
+bool IsClearlyRed(QRgb c) { return qAlpha(c) > 200 && qRed(c) > 150 && qRed(c) > 2 * qGreen(c) && qRed(c) > 2 * qBlue(c); }
+
+int RedPixels(const QImage& image) {
+  int count = 0;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) count += IsClearlyRed(image.pixel(x, y));
+  return count;
+}
+
+bool IsBlank(const QImage& image) {
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (qAlpha(image.pixel(x, y)) != 0) return false;
+  return true;
+}
+
+}  // namespace
+
+class TestCardPainter : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void sizeAndRatioAreHonoured_data() {
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<qreal>("dpr");
+    QTest::addColumn<QSize>("pixels");
+    QTest::newRow("small face") << int(Picture::Face) << QSize(45, 61) << 1.0 << QSize(45, 61);
+    QTest::newRow("large face, hidpi") << int(Picture::Face) << QSize(150, 203) << 2.0 << QSize(300, 406);
+    QTest::newRow("back, fractional") << int(Picture::Back) << QSize(110, 149) << 1.5 << QSize(165, 224);
+    QTest::newRow("marker") << int(Picture::Marker) << QSize(71, 96) << 1.25 << QSize(89, 120);
+  }
+  void sizeAndRatioAreHonoured() {
+    QFETCH(int, kind);
+    QFETCH(QSize, size);
+    QFETCH(qreal, dpr);
+    QFETCH(QSize, pixels);
+    const QPixmap pixmap = CardPainter::Paint({Picture::Kind(kind), 1}, size, dpr);
+    QCOMPARE(pixmap.size(), pixels);
+    QCOMPARE(pixmap.devicePixelRatio(), dpr);
+    const QImage image = pixmap.toImage();
+    QCOMPARE(qAlpha(image.pixel(0, 0)), 0);  // rounded corner
+    QVERIFY(qAlpha(image.pixel(pixels.width() / 2, pixels.height() / 2)) > 0);
+  }
+
+  void badPicturesPaintNothingAndDoNotCrash() {
+    for (auto [kind, number] : {std::pair{Picture::Face, 0}, {Picture::Face, 53}, {Picture::Face, -1},
+                                {Picture::Back, 0}, {Picture::Back, 13}, {Picture::Marker, -1},
+                                {Picture::Marker, 16}, {Picture::None, 1}}) {
+      const QImage image = Paint(kind, number);
+      QCOMPARE(image.size(), QSize(45, 61));
+      QVERIFY2(IsBlank(image), qPrintable(QString::fromStdString(Picture{kind, int16_t(number)}.Name())));
+    }
+    QVERIFY(CardPainter::Paint({Picture::Face, 1}, QSize(0, 61), 1).isNull());
+    QCOMPARE(CardPainter::Paint({Picture::Face, 1}, QSize(45, 61), std::nan("")).size(), QSize(45, 61));
+  }
+
+  // On a pile only the top strip of a covered card shows: it alone must tell the card.
+  void everyFaceDiffersEvenInTheVisibleStrip() {
+    QList<QImage> strips;
+    for (int n = 1; n <= 52; ++n) strips << Paint(Picture::Face, n).copy(0, 0, 45, 61 * 250 / 1440);
+    const QString twins = FirstTwins(strips, "face strips");
+    QVERIFY2(twins.isEmpty(), qPrintable(twins));
+  }
+
+  void redSuitsAreRedAndBlackSuitsHaveNoRed() {
+    for (int n = 1; n <= 52; ++n) {
+      const QImage face = Paint(Picture::Face, n, {110, 149});
+      const bool red = (n - 1) / 13 % 2 == 1;
+      const int inStrip = RedPixels(face.copy(0, 0, 110, 149 * 250 / 1440));
+      if (red)
+        QVERIFY2(inStrip > 20, qPrintable(QString("face %1 index is not red").arg(n)));
+      else
+        QVERIFY2(RedPixels(face) == 0, qPrintable(QString("face %1 has red ink").arg(n)));
+    }
+  }
+
+  void decksAndMarkersAreAllDifferent() {
+    QList<QImage> backs, markers;
+    for (int deck = 1; deck <= 12; ++deck) backs << Paint(Picture::Back, deck);
+    for (int n = 0; n <= 15; ++n) markers << Paint(Picture::Marker, n);
+    QString twins = FirstTwins(backs, "backs");
+    QVERIFY2(twins.isEmpty(), qPrintable(twins));
+    twins = FirstTwins(markers, "markers");
+    QVERIFY2(twins.isEmpty(), qPrintable(twins));
+    QVERIFY(!IsBlank(markers[14]));  // an empty place is still outlined on the table
+  }
+
+  void everyCommandHasItsOwnIcon() {
+    const QStringList keys{"New", "Select", "Restart", "Open", "Save", "UndoAll", "Undo", "Redo", "RedoAll",
+                           "AutoPlay", "Pause", "Back", "Stop", "Forward", "MovesMan", "AddFav", "OrgFav",
+                           "AddPend", "OrgPend", "HighScore", "GameStat", "Sounds", "Background", "Players",
+                           "AutoSave", "Hot", "History", "Options", "Rules", "Contents", "Recent", "Toolbar",
+                           "Wizard", "Editor", "FOLDER", "FILE", "Q1"};
+    QList<QImage> drawn;
+    for (const QString& key : keys) {
+      const QIcon icon = qv::CommandIcon(key);
+      QVERIFY2(!icon.isNull(), qPrintable(key));
+      QCOMPARE(icon.availableSizes().size(), 3);
+      drawn << icon.pixmap(24).toImage();
+      QVERIFY2(!IsBlank(drawn.last()), qPrintable(key));
+    }
+    const QString twins = FirstTwins(drawn, "icons");
+    QVERIFY2(twins.isEmpty(), qPrintable(twins));
+    QVERIFY(qv::CommandIcon("NoSuchCommand").isNull());
+    QVERIFY(qv::CommandIcon("new").isNull());
+    QVERIFY(qv::CommandIcon("").isNull());
+  }
+};
+
+QTEST_MAIN(TestCardPainter)
+#include "test_card_painter.moc"

@@ -1,0 +1,164 @@
+#include <QAction>
+#include <QGraphicsView>
+#include <QtTest>
+
+#include "MainWindow.h"
+#include "QtSprites.h"
+#include "TableView.h"
+#include "engine/Rules.h"
+#include "session/CommandTable.h"
+#include "session/Commands.h"
+#include "session/Program.h"
+#include "settings/MemorySettingsStore.h"
+
+using namespace qv;
+
+class TestMainWindow : public QObject {
+  Q_OBJECT
+
+ private:
+  std::unique_ptr<MemorySettingsStore> store_;
+  std::unique_ptr<MainWindow> w_;
+  QStringList opened_;
+
+  Program& app() { return w_->app(); }
+  QWidget* viewport() { return w_->view().viewport(); }
+  // Where a point of the table (twips) shows in the view's viewport.
+  QPoint At(double x, double y) { return w_->view().mapFromScene(QPointF(x, y)); }
+  // A point inside the visible strip of a card.
+  QPoint OnCard(int pic) {
+    return At(w_->sprites().Left(Sprites::PicCD, pic) + 500, w_->sprites().Top(Sprites::PicCD, pic) + 40);
+  }
+  void Deal(uint64_t n) { app().cGamePlay.PlayNumber("Spider", GameNo::Number(n)); }
+
+ private slots:
+  void init() {
+    store_ = std::make_unique<MemorySettingsStore>();
+    w_ = std::make_unique<MainWindow>(*store_);
+    w_->sprites().SetFramePacing(false);
+    w_->windowOpener = [this](const QString& key) { opened_ << key; };
+    opened_.clear();
+    w_->resize(1280, 800);
+    w_->show();
+    QVERIFY(QTest::qWaitForWindowExposed(w_.get()));
+    w_->Load();
+  }
+  void cleanup() { w_.reset(); }
+
+  void menusFollowTheCommandTable() {
+    for (const MenuDef& menu : MainMenus())
+      for (const MenuEntry& e : menu.entries) {
+        if (QString(e.key) == "Recent") continue;
+        QAction* a = w_->Action(e.key);
+        QVERIFY2(a, e.key);
+        QCOMPARE(a->text(), QString::fromUtf8(e.caption));
+        QCOMPARE(a->shortcut(), QKeySequence(QString::fromUtf8(e.shortcut)));
+      }
+    QCOMPARE(w_->Action("UndoAll")->shortcut(), QKeySequence("Ctrl+C"));
+  }
+
+  void enablingFollowsTheGame() {
+    w_->UpdateCommands();
+    for (const char* key : {"Restart", "Save", "Pause", "Close", "Undo", "AddFav"})
+      QVERIFY2(!w_->Action(key)->isEnabled(), key);
+    for (const char* key : {"New", "Select", "Open"}) QVERIFY2(w_->Action(key)->isEnabled(), key);
+    Deal(5);
+    ClickCard(app(), app().cPlay.GetTopPicID(1, 0));
+    w_->UpdateCommands();
+    for (const char* key : {"Restart", "Save", "Undo", "Close"}) QVERIFY2(w_->Action(key)->isEnabled(), key);
+    // A replay greys the journal's commands and lights Stop; any command stops it.
+    w_->Action("Back")->trigger();
+    w_->UpdateCommands();
+    QVERIFY(!w_->Action("Undo")->isEnabled());
+    QTRY_VERIFY(w_->Action("Stop")->isEnabled());
+    w_->Action("Options")->trigger();
+    QVERIFY(!IsReplaying(app()));
+    QCOMPARE(opened_.last(), QString("Options"));
+    QVERIFY(!w_->Action("Stop")->isEnabled());
+  }
+
+  void aCardIsDraggedWithTheMouse() {
+    for (uint64_t n = 1; n < 20; ++n) {
+      Deal(n);
+      const Table& t = app().cPlay.table();
+      for (int from = 0; from < 10; ++from)
+        for (int to = 0; to < 10; ++to) {
+          const int card = t.GetTopPicID(0, from);
+          if (from == to || !TableauAccepts(t, app().cGames, to, card)) continue;
+          const QPoint start = OnCard(card);
+          const int top = t.GetTopPicID(0, to);
+          const QPoint end =
+              At(w_->sprites().Left(Sprites::PicCD, top) + 500, w_->sprites().Top(Sprites::PicCD, top) + 40);
+          QTest::mousePress(viewport(), Qt::LeftButton, {}, start);
+          QTest::mouseMove(viewport(), (start + end) / 2);
+          QTest::mouseMove(viewport(), end);
+          QTest::mouseRelease(viewport(), Qt::LeftButton, {}, end);
+          QCOMPARE(app().cEngine.GetTransID(), 1);
+          QCOMPARE(app().cPlay.Pile(card), to);
+          return;
+        }
+    }
+    QFAIL("no legal move in the first deals");
+  }
+
+  void aRefusedDropJumpsBack() {
+    Deal(1);
+    const int card = app().cPlay.GetTopPicID(0, 3);
+    const double left = w_->sprites().Left(Sprites::PicCD, card);
+    const QPoint start = OnCard(card);
+    QTest::mousePress(viewport(), Qt::LeftButton, {}, start);
+    QTest::mouseMove(viewport(), start + QPoint(0, 200));  // down onto the empty table
+    QTest::mouseRelease(viewport(), Qt::LeftButton, {}, start + QPoint(0, 200));
+    QCOMPARE(app().cEngine.GetTransID(), 0);
+    QCOMPARE(w_->sprites().Left(Sprites::PicCD, card), left);
+  }
+
+  void theStockDealsARowAndAGroupMovesAsOne() {
+    Deal(1);
+    QTest::mouseClick(viewport(), Qt::LeftButton, {}, OnCard(app().cPlay.GetTopPicID(1, 0)));
+    QCOMPARE(app().cEngine.GetTransID(), 10);
+    QCOMPARE(app().cPlay.GetTop(1, 0), 49);
+  }
+
+  void aDoubleClickSendsAnAceHome() {
+    for (uint64_t n = 1; n < 300; ++n) {
+      Deal(n);
+      for (int p = 0; p < 10; ++p) {
+        const int card = app().cPlay.GetTopPicID(0, p);
+        if (app().cPlay.Num(card) != 0) continue;
+        const QPoint at = OnCard(card);
+        QTest::mouseClick(viewport(), Qt::LeftButton, {}, at);
+        QTest::mouseDClick(viewport(), Qt::LeftButton, {}, at);
+        QCOMPARE(app().cPlay.Cell(card), 3);
+        return;
+      }
+    }
+    QSKIP("no deal with an open Ace");
+  }
+
+  void theTableFillsTheWindowsWidth() {
+    Deal(1);
+    w_->view().FitTable();
+    const QRect stock = w_->view().mapFromScene(QRectF(0, 0, 12615, 10)).boundingRect();
+    QVERIFY(qAbs(stock.width() - viewport()->width()) <= 2);
+    // A resize keeps every card's place in twips.
+    const int card = app().cPlay.GetTopPicID(0, 9);
+    const double left = w_->sprites().Left(Sprites::PicCD, card);
+    w_->resize(900, 700);
+    QTest::qWait(20);
+    QCOMPARE(w_->sprites().Left(Sprites::PicCD, card), left);
+  }
+
+  void theTitleAndThePauseMark() {
+    Deal(482913);
+    app().cGamePlay.Update_Title();
+    QVERIFY(w_->windowTitle().startsWith("Quorvale 6.0 [Spider - 482913] [Player1]"));
+    w_->UpdateCommands();
+    w_->Action("Pause")->trigger();
+    QVERIFY(w_->Action("Pause")->isChecked());
+    QVERIFY(app().cGamePlay.PauseStatus());
+  }
+};
+
+QTEST_MAIN(TestMainWindow)
+#include "test_main_window.moc"
