@@ -149,6 +149,25 @@ class TestMainWindow : public QObject {
     QCOMPARE(w_->sprites().Left(Sprites::PicCD, card), left);
   }
 
+  // Every card's sprite stands where its place says, after a deal and a replayed file alike.
+  void everySpriteStandsAtItsPlace() {
+    Deal(482913);
+    for (int i = 0; i < 5; ++i) ClickCard(app(), app().cPlay.GetTopPicID(1, 0));
+    const std::string file = QDir::temp().filePath("quorvale-sprites.vq0").toStdString();
+    QVERIFY(app().cEngine.SavetoFile(file));
+    QVERIFY(app().cGamePlay.PlayFile(file, false));
+    QFile::remove(QString::fromStdString(file));
+    const Table& t = app().cPlay.table();
+    for (int pic = 0; pic < t.TotalCards(); ++pic) {
+      const CardRec& c = t.Card(pic);
+      if (c.Cell == 1) continue;  // the Stock's cards lie where they were placed
+      // A pile's column; its height was worked out when the card came, so only its order is checked.
+      QCOMPARE(w_->sprites().Left(Sprites::PicCD, pic), double(app().cGames.GetCordX(c.Cell, c.Pile, c.Pos)));
+      if (c.Pos > 0)
+        QVERIFY(w_->sprites().Top(Sprites::PicCD, pic) > w_->sprites().Top(Sprites::PicCD, t.GetPicID(0, c.Pile, c.Pos - 1)));
+    }
+  }
+
   void theTitleAndThePauseMark() {
     Deal(482913);
     app().cGamePlay.Update_Title();
