@@ -46,6 +46,9 @@ MainWindow::MainWindow(ISettingsStore& store, QWidget* parent)
   connect(&TimerOf(Timer::Backward), &QTimer::timeout, this, [this] { ReplayTick(*app_, false); });
   BuildMenus();
   BuildToolbar();
+  for (auto it = actions_.cbegin(); it != actions_.cend(); ++it)
+    if (it.key() != "Stop")  // the replay keeps Stop itself
+      commands_.push_back({it.key().toStdString(), it.value(), toolbarItems_.value(it.key())});
   resize(1280, 800);
 }
 
@@ -113,12 +116,12 @@ void MainWindow::RefreshToolbar() {
 }
 
 void MainWindow::UpdateCommands() {
-  // Only what changed is set: QAction ignores a value it already has.
-  for (auto it = actions_.cbegin(); it != actions_.cend(); ++it) {
-    if (it.key() == "Stop") continue;  // kept by the replay
-    const bool enabled = CommandEnabled(*app_, it.key().toStdString());
-    it.value()->setEnabled(enabled);
-    if (QAction* button = toolbarItems_.value(it.key())) button->setEnabled(enabled);
+  // Ten times a second: nothing is allocated, and QAction ignores a value it already has,
+  // so only what changed is repainted.
+  for (const Command& c : commands_) {
+    const bool enabled = CommandEnabled(*app_, c.key);
+    c.entry->setEnabled(enabled);
+    if (c.button) c.button->setEnabled(enabled);
   }
   actions_.value("AutoPlay")->setChecked(AutoPlayChecked(*app_));
   toolbarItems_.value("AutoPlay")->setChecked(AutoPlayPressed(*app_));

@@ -7,6 +7,8 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "QtMessageBoxes.h"
 #include "surface/IClock.h"
@@ -71,6 +73,13 @@ class MainWindow : public QMainWindow, public IWindow {
   QHash<QString, QAction*> actions_;
   QToolBar* toolbar_ = nullptr;
   QHash<QString, QAction*> toolbarItems_;
+  // What the main timer sets, worked out once: a key with its menu entry and its button.
+  struct Command {
+    std::string key;
+    QAction* entry;
+    QAction* button;
+  };
+  std::vector<Command> commands_;
   bool stopped_ = false;
 };
 

@@ -9,6 +9,7 @@
 #include "session/CommandTable.h"
 #include "session/Commands.h"
 #include "session/Program.h"
+#include "session/SavedGameFile.h"
 #include "settings/MemorySettingsStore.h"
 
 using namespace qv;
@@ -113,7 +114,31 @@ class TestMainWindow : public QObject {
     QCOMPARE(w_->sprites().Left(Sprites::PicCD, card), left);
   }
 
-  void theStockDealsARowAndAGroupMovesAsOne() {
+  void aGroupIsDraggedWithTheMouse() {
+    // "Any Card" rules, brought by a saved game's header, let any open run move as one.
+    GameHeader h;
+    h.GameName = "Any Card";
+    h.GameNo = GameNo::Number(7);
+    h.HPiles = 10, h.HOrder = 5, h.HSpace = 13, h.HMulti = 1, h.Suits = 2, h.MOrder = 5;
+    const QString file = QDir::temp().filePath("quorvale-group.vq0");
+    QVERIFY(app().cFileSys.WriteText(file.toStdString(), FormatSavedGame(h, {})));
+    QVERIFY(app().cGamePlay.PlayFile(file.toStdString(), false));
+    QFile::remove(file);
+    DragCardToPile(app(), app().cPlay.GetTopPicID(0, 0), 1);
+    DragCardToPile(app(), app().cPlay.GetTopPicID(0, 2), 1);
+    const int foot = app().cPlay.GetPicID(0, 1, app().cPlay.GetTop(0, 1) - 2);
+    const int target = app().cPlay.GetTopPicID(0, 6);
+    const QPoint start = OnCard(foot);
+    const QPoint end = At(w_->sprites().Left(Sprites::PicCD, target) + 500, w_->sprites().Top(Sprites::PicCD, target) + 40);
+    QTest::mousePress(viewport(), Qt::LeftButton, {}, start);
+    QTest::mouseMove(viewport(), end);
+    QTest::mouseRelease(viewport(), Qt::LeftButton, {}, end);
+    QCOMPARE(app().cEngine.Record(app().cEngine.GetTransID()).mCards, 2);
+    QCOMPARE(app().cPlay.Pile(foot), 6);
+    QCOMPARE(app().cPlay.GetTop(0, 6), app().cPlay.Pos(foot) + 2);
+  }
+
+  void theStockDealsARow() {
     Deal(1);
     QTest::mouseClick(viewport(), Qt::LeftButton, {}, OnCard(app().cPlay.GetTopPicID(1, 0)));
     QCOMPARE(app().cEngine.GetTransID(), 10);
