@@ -6,9 +6,7 @@
 
 namespace qv {
 
-namespace {
-
-std::string Quote(const std::string& s) {
+std::string JsonText(const std::string& s) {
   std::string out = "\"";
   for (unsigned char c : s) {
     if (c == '"' || c == '\\') {
@@ -24,6 +22,8 @@ std::string Quote(const std::string& s) {
   }
   return out + "\"";
 }
+
+namespace {
 
 const char* Bool(bool b) { return b ? "true" : "false"; }
 
@@ -47,8 +47,8 @@ std::string StateJson(const Program& app) {
   const auto& gp = app.cGamePlay;
   const bool onTable = gp.Game_Status() != 0 && app.cPlay.table().Exists();
   std::string out = "{";
-  out += "\"game\":" + Quote(gp.GameName());
-  out += ",\"number\":" + Quote(gp.GameNo().Text());
+  out += "\"game\":" + JsonText(gp.GameName());
+  out += ",\"number\":" + JsonText(gp.GameNo().Text());
   out += ",\"number_typed\":" + std::string(Bool(gp.GameNo().IsTyped()));
   out += ",\"status\":" + std::to_string(gp.Game_Status());
   out += ",\"running\":" + std::string(Bool(gp.Game_Running()));

@@ -6,6 +6,8 @@ namespace qv {
 
 class Program;
 
+// A text as a JSON string.
+std::string JsonText(const std::string& s);
 // The table and the session as one JSON object, the shape every command prints.
 std::string StateJson(const Program& app);
 

@@ -7,6 +7,8 @@
 #include "CliSurface.h"
 #include "Script.h"
 #include "StateJson.h"
+#include "lists/AutoSave.h"
+#include "lists/Pending.h"
 #include "session/Program.h"
 #include "session/StartUp.h"
 #include "settings/IniSettingsStore.h"
@@ -24,9 +26,13 @@ Commands:
   replay FILE        Load a saved game (.vq0 or .vq1) as the program does and print
                      the state as JSON; a finished game is first replayed to its end.
   run [SCRIPT]       Play a session script from SCRIPT or standard input.
+  autosave-list      The auto-saved games as JSON: {"incomplete": [...], "finished": [...]},
+                     full paths in the folder's order, files that read only.
+  pending-list       The pending games as a JSON array of full paths, as the menu lists them.
+  recent N           A recent list as a JSON array, slot order: 0 played, 1 saved, 2 opened.
   --help             Show this text.
 
-deal and replay only look: they write no setting and no file.
+deal, replay and the lists only look: they write no setting and no file.
 
 A script has one command a line; blank lines and lines starting with # are skipped,
 and an argument with blanks goes in double quotes. It starts with no game on the
@@ -84,6 +90,32 @@ int Look(const std::vector<std::string>& args) {
   return qv::kOk;
 }
 
+std::string JsonArray(const std::vector<std::string>& items) {
+  std::string out = "[";
+  for (size_t i = 0; i < items.size(); ++i) out += (i ? "," : "") + qv::JsonText(items[i]);
+  return out + "]";
+}
+
+int List(const std::vector<std::string>& args) {
+  qv::IniSettingsStore file(qv::IniSettingsStore::DefaultPath());
+  qv::OverlaySettingsStore settings(file);
+  Headless h;
+  qv::Program app(h.Surface(), settings, qv::PlatformFolders::FromEnvironment());
+  if (args[0] == "autosave-list") {
+    std::cout << "{\"incomplete\":" << JsonArray(qv::GetAutoSaveFiles(app, false))
+              << ",\"finished\":" << JsonArray(qv::GetAutoSaveFiles(app, true)) << "}\n";
+  } else if (args[0] == "pending-list") {
+    std::cout << JsonArray(qv::GetPendingFiles(app)) << "\n";
+  } else {
+    if (args[1] != "0" && args[1] != "1" && args[1] != "2") return Fail(qv::kUsageError, "recent takes 0, 1 or 2");
+    auto slots = app.cFunc.GetMRU(std::stoi(args[1]));
+    slots.erase(slots.begin());
+    std::erase(slots, std::string());
+    std::cout << JsonArray(slots) << "\n";
+  }
+  return qv::kOk;
+}
+
 int RunScript(const std::vector<std::string>& args) {
   std::ifstream file;
   if (args.size() == 2) {
@@ -110,5 +142,7 @@ int main(int argc, char** argv) {
   if (args[0] == "deal" && args.size() == 3) return Look(args);
   if (args[0] == "replay" && args.size() == 2) return Look(args);
   if (args[0] == "run" && args.size() <= 2) return RunScript(args);
+  if ((args[0] == "autosave-list" || args[0] == "pending-list") && args.size() == 1) return List(args);
+  if (args[0] == "recent" && args.size() == 2) return List(args);
   return Fail(qv::kUsageError, "unknown command or wrong arguments; see quorvale-cli --help");
 }

@@ -1,6 +1,7 @@
 #include "MainWindow.h"
 
 #include <QCloseEvent>
+#include <algorithm>
 #include <QMenuBar>
 #include <QToolBar>
 
@@ -8,6 +9,8 @@
 #include "QtSprites.h"
 #include "TableView.h"
 #include "Windows.h"
+#include "lists/Pending.h"
+#include "lists/Recent.h"
 #include "session/CommandTable.h"
 #include "session/Commands.h"
 #include "session/Program.h"
@@ -47,7 +50,7 @@ MainWindow::MainWindow(ISettingsStore& store, QWidget* parent)
   BuildMenus();
   BuildToolbar();
   for (auto it = actions_.cbegin(); it != actions_.cend(); ++it)
-    if (it.key() != "Stop")  // the replay keeps Stop itself
+    if (it.key() != "Stop" && it.key() != "OrgPend")  // kept by the replay and the pending list
       commands_.push_back({it.key().toStdString(), it.value(), toolbarItems_.value(it.key())});
   resize(1280, 800);
 }
@@ -60,6 +63,7 @@ MainWindow::~MainWindow() {
 void MainWindow::Load() {
   setWindowTitle(QString::fromStdString(app_->cData.ProdName()));
   StartUp(*app_);
+  RefreshMenus();
   RefreshToolbar();
   UpdateCommands();
   TimerOf(Timer::Main).start();
@@ -76,9 +80,9 @@ void MainWindow::BuildMenus() {
       ++next;
       const QString key = QString::fromUtf8(entry.key);
       if (key == "Recent") {
-        // The recent lists fill these sub-menus; until they do, each says so.
+        // Entries 12, 13 and 14 of the File menu: recently saved, opened and played.
         QMenu* sub = m->addMenu(CommandIcon(key), QString::fromUtf8(entry.caption));
-        sub->addAction("None")->setEnabled(false);
+        recentMenus_[entry.index == 12 ? kRecentSaved : entry.index == 13 ? kRecentOpened : kRecentPlayed] = sub;
         continue;
       }
       QAction* a = m->addAction(CommandIcon(key), QString::fromUtf8(entry.caption));
@@ -89,7 +93,36 @@ void MainWindow::BuildMenus() {
       actions_.insert(key, a);
     }
     for (; next <= menu.size; ++next) m->addSeparator();
+    if (QString(menu.name) == "mPend") pendMenu_ = m;
   }
+}
+
+void MainWindow::RefreshMenus() {
+  for (int list : {kRecentSaved, kRecentOpened, kRecentPlayed}) {
+    QMenu* menu = recentMenus_[list];
+    menu->clear();
+    const auto entries = RecentMenuEntries(*app_, list);
+    if (entries.empty()) menu->addAction("None")->setEnabled(false);
+    for (const std::string& entry : entries) {
+      const QString tag = QString::fromStdString(entry);
+      connect(menu->addAction(CommandIcon("Q1"), tag), &QAction::triggered, this,
+              [this, list, entry] { PlayRecent(*app_, RecentCode(list), entry); });
+    }
+  }
+  for (QAction* a : pendEntries_) delete a;
+  pendEntries_.clear();
+  const auto pending = PendingMenuEntries(*app_);
+  for (const PendingEntry& e : pending) {
+    QAction* a = pendMenu_->addAction(CommandIcon("Q1"), QString::fromStdString(e.caption));
+    a->setEnabled(!e.playing);
+    const std::string path = e.path;
+    connect(a, &QAction::triggered, this, [this, path] { app_->cGamePlay.PlayPendFile(path); });
+    pendEntries_.push_back(a);
+  }
+  // "Organize Pending List" only while the list has files.
+  const bool files = std::any_of(pending.begin(), pending.end(), [](const auto& e) { return !e.playing; });
+  actions_.value("OrgPend")->setEnabled(files);
+  toolbarItems_.value("OrgPend")->setEnabled(files);
 }
 
 void MainWindow::BuildToolbar() {

@@ -54,6 +54,7 @@ class MainWindow : public QMainWindow, public IWindow {
   void SetStopEnabled(bool enabled) override;
   void OpenWindow(const std::string& key) override;
   void CloseMain() override { close(); }
+  void RefreshMenus() override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -80,6 +81,9 @@ class MainWindow : public QMainWindow, public IWindow {
     QAction* button;
   };
   std::vector<Command> commands_;
+  std::array<QMenu*, 3> recentMenus_{};  // by list: played, saved, opened
+  QMenu* pendMenu_ = nullptr;
+  std::vector<QAction*> pendEntries_;
   bool stopped_ = false;
 };
 

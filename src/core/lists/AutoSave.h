@@ -1,11 +1,29 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 namespace qv {
 
 class Program;
 
-// Auto-saved copies of ended games. The session calls this where a game ends; the
-// copies are written once the auto-save folder's lists and dialog are built.
-inline void AutoSaveGame(Program& /*app*/, bool /*Won*/) {}
+// Copies of ended games in the auto-save folder: "Name-Number" with "-(n)" when taken,
+// ".vq1" for a won game and ".vq0" for one given up. Nothing is ever overwritten.
+// Writes nothing when the Options turned that kind off, unless `always` (a game that must
+// not be lost). False, with a message shown, when the copy could not be written.
+bool AutoSaveGame(Program& app, bool Won, bool always = false);
+// The copies of a kind whose header reads, full paths in the folder's order.
+std::vector<std::string> GetAutoSaveFiles(const Program& app, bool Won);
+// Asks first; deletes every copy of a kind. True when it did.
+bool EmptyAutoSave(Program& app, bool Won);
+// The saved games directly in the saved-games folder whose header reads.
+std::vector<std::string> GetSavedFiles(const Program& app);
+
+// Files of a folder whose name ends in one of the extensions (any case) and whose header
+// reads, in the folder's order; the rest are passed over without a word.
+std::vector<std::string> ReadableGames(const std::string& folder, const std::vector<std::string>& extensions);
+// The first free path "stem" + suffix(i) + ext in a folder, i counting from 0 (no suffix).
+std::string FreeName(const std::string& folder, const std::string& stem, const std::string& ext,
+                     std::string (*suffix)(int));
 
 }  // namespace qv

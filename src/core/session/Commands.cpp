@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "lists/Pending.h"
 #include "session/CommandTable.h"
 #include "session/Program.h"
 #include "settings/SettingKeys.h"
@@ -45,6 +46,8 @@ bool RunSessionCommand(Program& app, const std::string& key) {
     int speed = 1;
     e.UndoAll(speed);
     window.EnableTimer(Timer::Forward, true);
+  } else if (key == "AddPend") {
+    MoveToPending(app);
   } else if (key == "Stop") {
     // StopReplay has run already.
   } else {

@@ -12,6 +12,7 @@ Program::Program(Surface s, ISettingsStore& st, PlatformFolders f)
       cGames(*this),
       cEngine(*this),
       cRegistry(st),
+      cFunc(cRegistry),
       cGamePlay(*this),
       cCustom(*this),
       cPlay(*this),

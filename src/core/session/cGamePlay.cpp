@@ -5,6 +5,7 @@
 #include "lists/AutoSave.h"
 #include "lists/GameNumbers.h"
 #include "lists/Pending.h"
+#include "lists/Recent.h"
 #include "scores/Players.h"
 #include "scores/ScoreText.h"
 #include "session/Program.h"
@@ -53,7 +54,7 @@ bool cGamePlay::StartGame(const std::string& cGameName, const qv::GameNo& cGameN
     app_.cEngine.RedoAll(speed);
   }
   if (cLoadType != kFinishedFile) {
-    app_.cFunc.AddRecent(0, gameName_ + " - " + gameNo_.Text());
+    AddRecent(app_, kRecentPlayed, gameName_ + " - " + gameNo_.Text());
     running_ = true;
     app_.surface.window.EnableTimer(Timer::Game, true);
     LastGName(gameName_);
@@ -92,7 +93,7 @@ bool cGamePlay::PlayFile(const std::string& fName, bool bRecent) {
   if (status_ == 1 && !EndGame(0, false)) return false;
   app_.cEngine.LoadRecords(game->records);
   const GameHeader& h = game->header;
-  if (bRecent) app_.cFunc.AddRecent(2, fName);
+  if (bRecent) AddRecent(app_, kRecentOpened, fName);
   const int loadType = IsFinishedFileName(fName, app_.cData.FinExt()) ? kFinishedFile : kIncompleteFile;
   app_.cCustom.LoadGameFile(h);
   return StartGame(h.GameName, h.GameNo, loadType, h.Time, h.Score, 0);
@@ -108,8 +109,10 @@ bool cGamePlay::PlayPendFile(const std::string& fName) {
   app_.cCustom.LoadGameFile(game->header);
   // From here the game lives in memory until it ends or is won; a failed delete is ignored.
   app_.cFileSys.Delete(fName);
-  return StartGame(game->header.GameName, game->header.GameNo, kPendingGame, game->header.Time,
-                   game->header.Score, 0);
+  const bool started = StartGame(game->header.GameName, game->header.GameNo, kPendingGame, game->header.Time,
+                                 game->header.Score, 0);
+  app_.surface.window.RefreshMenus();
+  return started;
 }
 
 bool cGamePlay::EndGame(int Win, bool bTerminate) {
@@ -136,7 +139,8 @@ void cGamePlay::Unload() {
   app_.cRegistry.Set(setting::UnFin, 0);
   if (status_ != 1) return;
   if (loadingType_ == kPendingGame) {
-    EndGame(0, true);
+    // A pending game whose file cannot be written back is kept as an auto-saved copy.
+    if (!EndGame(0, true)) AutoSaveGame(app_, false, true);
   } else if (app_.cRegistry.Get(setting::GameSave) == 1) {
     // The game counts as waiting only once its file is there whole.
     std::string error;

@@ -23,6 +23,8 @@ class IWindow {
   virtual void OpenWindow(const std::string& key) = 0;
   // Closes the main window, which stops the program.
   virtual void CloseMain() = 0;
+  // Rebuilds the menus that mirror folders and lists (recent games, pending games).
+  virtual void RefreshMenus() = 0;
 };
 
 }  // namespace qv

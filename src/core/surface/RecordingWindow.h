@@ -19,6 +19,7 @@ class RecordingWindow : public IWindow {
   void SetStopEnabled(bool e) override { stopEnabled = e; }
   void OpenWindow(const std::string& key) override { opened.push_back(key); }
   void CloseMain() override { closed = true; }
+  void RefreshMenus() override { ++menuRefreshes; }
 
   std::string title;
   std::array<bool, 6> timers{true, true, false, false, false, false};
@@ -27,6 +28,7 @@ class RecordingWindow : public IWindow {
   bool stopEnabled = false;
   std::vector<std::string> opened;
   bool closed = false;
+  int menuRefreshes = 0;
 };
 
 }  // namespace qv

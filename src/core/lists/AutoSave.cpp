@@ -1,0 +1,70 @@
+#include "lists/AutoSave.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "session/Program.h"
+#include "session/SavedGameFile.h"
+#include "settings/SettingKeys.h"
+
+namespace qv {
+
+namespace {
+
+bool EndsWithIgnoringCase(const std::string& name, const std::string& ext) {
+  if (name.size() < ext.size()) return false;
+  return std::equal(ext.begin(), ext.end(), name.end() - static_cast<long>(ext.size()),
+                    [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b)); });
+}
+
+std::string CopySuffix(int i) { return i == 0 ? "" : "-(" + std::to_string(i) + ")"; }
+
+}  // namespace
+
+std::vector<std::string> ReadableGames(const std::string& folder, const std::vector<std::string>& extensions) {
+  std::vector<std::string> files;
+  std::error_code ec;
+  for (const auto& entry : std::filesystem::directory_iterator(folder, ec)) {
+    const std::string name = entry.path().filename().string();
+    const bool kind = extensions.empty() || std::any_of(extensions.begin(), extensions.end(), [&](const auto& e) {
+                        return EndsWithIgnoringCase(name, e);
+                      });
+    if (kind && entry.is_regular_file(ec) && ReadGameHeader(entry.path().string())) files.push_back(entry.path().string());
+  }
+  return files;
+}
+
+std::string FreeName(const std::string& folder, const std::string& stem, const std::string& ext,
+                     std::string (*suffix)(int)) {
+  for (int i = 0;; ++i) {
+    const auto path = std::filesystem::path(folder) / (stem + suffix(i) + ext);
+    std::error_code ec;
+    if (!std::filesystem::exists(path, ec)) return path.string();
+  }
+}
+
+bool AutoSaveGame(Program& app, bool Won, bool always) {
+  if (!always && app.cRegistry.Get(Won ? setting::EnableFin : setting::EnableInc) != 1) return true;
+  const std::string stem = app.cGamePlay.GameName() + "-" + app.cGamePlay.GameNo().Text();
+  const std::string ext = Won ? app.cData.FinExt() : app.cData.IncExt();
+  std::string error;
+  if (app.cEngine.SavetoFile(FreeName(app.cData.AutoSaveFolder(), stem, ext, CopySuffix), &error)) return true;
+  app.MsgBox("The game could not be kept in the AutoSave folder: " + error + ".", MsgStyle::Stop);
+  return false;
+}
+
+std::vector<std::string> GetAutoSaveFiles(const Program& app, bool Won) {
+  return ReadableGames(app.cData.AutoSaveFolder(), {Won ? app.cData.FinExt() : app.cData.IncExt()});
+}
+
+bool EmptyAutoSave(Program& app, bool Won) {
+  if (app.MsgBox("Are you sure you want to delete all Games ?", MsgStyle::YesNoStop) != Answer::Yes) return false;
+  for (const auto& file : GetAutoSaveFiles(app, Won)) app.cFileSys.Delete(file);
+  return true;
+}
+
+std::vector<std::string> GetSavedFiles(const Program& app) {
+  return ReadableGames(app.cData.SavedFolder(), {app.cData.FinExt(), app.cData.IncExt()});
+}
+
+}  // namespace qv
