@@ -15,6 +15,7 @@
 #include "session/Commands.h"
 #include "session/Program.h"
 #include "session/StartUp.h"
+#include "settings/FileClasses.h"
 
 namespace qv {
 
@@ -63,6 +64,9 @@ MainWindow::~MainWindow() {
 void MainWindow::Load() {
   setWindowTitle(QString::fromStdString(app_->cData.ProdName()));
   StartUp(*app_);
+  // Saved games open from the file manager once their types are known to the desktop.
+  if (GetFileClass(*app_, app_->cData.IncExt()).empty() || GetFileClass(*app_, app_->cData.FinExt()).empty())
+    RegisterFileTypes(*app_);
   RefreshMenus();
   RefreshToolbar();
   UpdateCommands();

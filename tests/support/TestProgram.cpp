@@ -36,7 +36,7 @@ TempHome::~TempHome() {
 }
 
 TestProgram::TestProgram() {
-  PlatformFolders folders{home.Path() / "data", home.Path() / "Documents", home.Path() / "bin"};
+  PlatformFolders folders{home.Path() / "data", home.Path() / "Documents", home.Path() / "config", home.Path() / "bin"};
   app = std::make_unique<Program>(Surface{sprites, window, dialogs, clock}, settings, folders);
 }
 

@@ -37,9 +37,9 @@ PlatformFolders PlatformFolders::FromEnvironment() {
   PlatformFolders f;
   f.appData = EnvPath("XDG_DATA_HOME");
   if (f.appData.empty() && !home.empty()) f.appData = home / ".local" / "share";
-  auto config = EnvPath("XDG_CONFIG_HOME");
-  if (config.empty() && !home.empty()) config = home / ".config";
-  f.documents = DocumentsFolder(home, config);
+  f.config = EnvPath("XDG_CONFIG_HOME");
+  if (f.config.empty() && !home.empty()) f.config = home / ".config";
+  f.documents = DocumentsFolder(home, f.config);
   std::error_code ec;
   f.program = std::filesystem::read_symlink("/proc/self/exe", ec).parent_path();
   return f;

@@ -13,6 +13,7 @@ class Program;
 struct PlatformFolders {
   std::filesystem::path appData;    // $XDG_DATA_HOME, else ~/.local/share
   std::filesystem::path documents;  // the XDG documents folder, else ~/Documents
+  std::filesystem::path config;     // $XDG_CONFIG_HOME, else ~/.config
   std::filesystem::path program;    // the folder of the running executable
   static PlatformFolders FromEnvironment();
 };

@@ -16,6 +16,9 @@ class cSound {
   void Animation() {}
   void Deck() {}
   void Options() {}
+  void AutoSave() {}
+  void OrgPend() {}
+  void Hot() {}
 };
 
 }  // namespace qv
