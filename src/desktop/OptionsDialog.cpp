@@ -9,6 +9,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "lists/Recent.h"
 #include "session/Program.h"
 
 namespace qv {
@@ -64,6 +65,20 @@ namespace {
 int CheckTextIndent(const QWidget* w) {
   return w->style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, w) +
          w->style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, w);
+}
+
+// The Clear Now buttons and the recent list each one clears.
+struct ClearButton {
+  const char* name;
+  int list;
+};
+constexpr ClearButton kClearButtons[] = {{"cmdrSave", kRecentSaved}, {"cmdrOpen", kRecentOpened},
+                                         {"cmdrPlay", kRecentPlayed}};
+
+// A list with nothing in it has nothing to clear.
+void EnableClearButtons(QWidget* dialog, const Program& app) {
+  for (const ClearButton& b : kClearButtons)
+    if (auto* button = dialog->findChild<QPushButton*>(b.name)) button->setEnabled(GetRecentCount(app, b.list) > 0);
 }
 }  // namespace
 
@@ -143,14 +158,21 @@ OptionsDialog::OptionsDialog(Program& app, QWidget* parent) : QDialog(parent), a
       {"Label11", "Clear Recently Played List", "Label12",
        "Clear Recent List containing info of all recently played games.", "cmdrPlay"},
   };
-  for (const RecentRow& r : rows) {
+  for (int i = 0; i < 3; ++i) {
+    const RecentRow& r = rows[i];
     recent->addWidget(Heading(r.heading, r.headingText));
     QHBoxLayout* row = Indented(recent);
     row->addWidget(Note(r.note, r.noteText), 1);
     auto* clear = new QPushButton("Clear Now");
     clear->setObjectName(r.button);
-    // The recent lists are not kept yet; their buttons wait for them.
-    clear->setEnabled(false);
+    const int list = kClearButtons[i].list;
+    connect(clear, &QPushButton::clicked, this, [this, list] {
+      if (app_.MsgBox("Are you sure you want to clear this recent list ?", MsgStyle::YesNoStop) != Answer::Yes)
+        return;
+      ClearRecent(app_, list);
+      app_.MsgBox("Successfully Cleared", MsgStyle::Information);
+      EnableClearButtons(this, app_);
+    });
     row->addWidget(clear, 0, Qt::AlignVCenter);
     recent->addSpacing(8);
   }
@@ -168,6 +190,7 @@ OptionsDialog::OptionsDialog(Program& app, QWidget* parent) : QDialog(parent), a
   layout->addLayout(buttons);
   setMinimumWidth(470);
   adjustSize();
+  EnableClearButtons(this, app_);
 
   app_.cSound.Options();
 }

@@ -7,9 +7,13 @@
 #include <QVBoxLayout>
 
 #include "AnimationDialog.h"
+#include "AutoSaveDialog.h"
 #include "CardDeckDialog.h"
+#include "FileCommands.h"
+#include "HotGamesDialog.h"
 #include "MainWindow.h"
 #include "OptionsDialog.h"
+#include "PendingDialog.h"
 #include "ToolbarDialog.h"
 #include "session/Program.h"
 
@@ -59,6 +63,11 @@ void OpenProgramWindow(MainWindow& main, const QString& key) {
   else if (key == "Animation") AnimationDialog(main.app(), &main).exec();
   else if (key == "Deck") CardDeckDialog(main.app(), &main).exec();
   else if (key == "Options") OptionsDialog(main.app(), &main).exec();
+  else if (key == "Open") OpenGame(main);
+  else if (key == "Save") SaveGame(main);
+  else if (key == "AutoSave") AutoSaveDialog(main.app(), &main).exec();
+  else if (key == "OrgPend") PendingDialog(main.app(), &main).exec();
+  else if (key == "Hot") HotGamesDialog(main.app(), &main).exec();
 }
 
 }  // namespace qv
