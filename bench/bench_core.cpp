@@ -11,6 +11,8 @@
 
 #include "TestProgram.h"
 #include "engine/Pointer.h"
+#include "lists/AutoSave.h"
+#include "lists/Pending.h"
 #include "session/SavedGameFile.h"
 
 namespace qv {
@@ -249,6 +251,36 @@ void BM_FormatSavedGame1000(benchmark::State& state) {
   if (text != expected) state.SkipWithError("the formatted text differs from the file");
 }
 BENCHMARK(BM_FormatSavedGame1000)->Unit(benchmark::kMicrosecond);
+
+// A folder of `count` saved games of a few rows each, for the lists and menus.
+void FillFolder(test::TestProgram& t, const std::string& folder, int count, const std::string& ext) {
+  t.Deal("Spider", 31);
+  test::DealRows(t, 2);
+  const std::string one = t.home.File("one.vq0");
+  t->cEngine.SavetoFile(one);
+  const std::string text = test::ReadFile(one);
+  for (int i = 0; i < count; ++i) test::WriteFile(folder + "/Spider-" + std::to_string(i) + ext, text);
+}
+
+// What the Auto Save dialog reads to fill a tab: the folder listed and every header read.
+void BM_ListAutoSave1000(benchmark::State& state) {
+  test::TestProgram t;
+  FillFolder(t, t->cData.AutoSaveFolder(), 1000, ".vq0");
+  size_t listed = 0;
+  for (auto _ : state) listed = ListAutoSaves(*t.app, false).size();
+  if (listed != 1000) state.SkipWithError("not every copy was listed");
+}
+BENCHMARK(BM_ListAutoSave1000)->Unit(benchmark::kMillisecond);
+
+// What rebuilding the pending menu reads: 100 pending games and their captions.
+void BM_PendingMenu100(benchmark::State& state) {
+  test::TestProgram t;
+  FillFolder(t, t->cData.PendingFolder(), 100, ".vq0");
+  size_t entries = 0;
+  for (auto _ : state) entries = PendingMenuEntries(*t.app).size();
+  if (entries != 100) state.SkipWithError("not every pending game was listed");
+}
+BENCHMARK(BM_PendingMenu100)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace qv

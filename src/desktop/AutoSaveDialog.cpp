@@ -107,9 +107,8 @@ AutoSaveDialog::AutoSaveDialog(Program& app, QWidget* parent)
 
 bool AutoSaveDialog::Fill(QTreeWidget* list, bool won) {
   list->clear();
-  for (const std::string& path : GetAutoSaveFiles(app_, won)) {
-    const auto h = ReadGameHeader(path);
-    if (!h) continue;  // gone or spoilt since the folder was read
+  for (const auto& [path, header] : ListAutoSaves(app_, won)) {
+    const GameHeader* h = &header;
     const std::string name = std::filesystem::path(path).filename().string();
     auto* row = new QTreeWidgetItem(list);
     row->setText(0, QString::fromStdString(name.size() > 4 ? name.substr(0, name.size() - 4) : name));

@@ -72,9 +72,8 @@ PendingDialog::PendingDialog(Program& app, QWidget* parent)
 
 void PendingDialog::Fill() {
   list_->clear();
-  for (const std::string& path : GetPendingFiles(app_)) {
-    const auto h = ReadGameHeader(path);
-    if (!h) continue;  // gone since the folder was read
+  for (const auto& [path, header] : ListPending(app_)) {
+    const GameHeader* h = &header;
     const std::string name = std::filesystem::path(path).filename().string();
     const std::string stem = name.size() > 4 ? name.substr(0, name.size() - 4) : name;
     auto* row = new QTreeWidgetItem(list_);

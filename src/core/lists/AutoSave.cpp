@@ -21,17 +21,28 @@ std::string CopySuffix(int i) { return i == 0 ? "" : "-(" + std::to_string(i) + 
 
 }  // namespace
 
-std::vector<std::string> ReadableGames(const std::string& folder, const std::vector<std::string>& extensions) {
-  std::vector<std::string> files;
+std::vector<ListedGame> ListGames(const std::string& folder, const std::vector<std::string>& extensions) {
+  std::vector<ListedGame> games;
   std::error_code ec;
   for (const auto& entry : std::filesystem::directory_iterator(folder, ec)) {
     const std::string name = entry.path().filename().string();
     const bool kind = extensions.empty() || std::any_of(extensions.begin(), extensions.end(), [&](const auto& e) {
                         return EndsWithIgnoringCase(name, e);
                       });
-    if (kind && entry.is_regular_file(ec) && ReadGameHeader(entry.path().string())) files.push_back(entry.path().string());
+    if (!kind || !entry.is_regular_file(ec)) continue;
+    if (auto header = ReadGameHeader(entry.path().string())) games.push_back({entry.path().string(), std::move(*header)});
   }
-  return files;
+  return games;
+}
+
+std::vector<std::string> Paths(const std::vector<ListedGame>& games) {
+  std::vector<std::string> paths;
+  for (const auto& g : games) paths.push_back(g.path);
+  return paths;
+}
+
+std::vector<ListedGame> ListAutoSaves(const Program& app, bool Won) {
+  return ListGames(app.cData.AutoSaveFolder(), {Won ? app.cData.FinExt() : app.cData.IncExt()});
 }
 
 std::string FreeName(const std::string& folder, const std::string& stem, const std::string& ext,
@@ -53,9 +64,7 @@ bool AutoSaveGame(Program& app, bool Won, bool always) {
   return false;
 }
 
-std::vector<std::string> GetAutoSaveFiles(const Program& app, bool Won) {
-  return ReadableGames(app.cData.AutoSaveFolder(), {Won ? app.cData.FinExt() : app.cData.IncExt()});
-}
+std::vector<std::string> GetAutoSaveFiles(const Program& app, bool Won) { return Paths(ListAutoSaves(app, Won)); }
 
 bool EmptyAutoSave(Program& app, bool Won) {
   if (app.MsgBox("Are you sure you want to delete all Games ?", MsgStyle::YesNoStop) != Answer::Yes) return false;
@@ -64,7 +73,7 @@ bool EmptyAutoSave(Program& app, bool Won) {
 }
 
 std::vector<std::string> GetSavedFiles(const Program& app) {
-  return ReadableGames(app.cData.SavedFolder(), {app.cData.FinExt(), app.cData.IncExt()});
+  return Paths(ListGames(app.cData.SavedFolder(), {app.cData.FinExt(), app.cData.IncExt()}));
 }
 
 }  // namespace qv

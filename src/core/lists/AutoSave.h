@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "session/SavedGameFile.h"
+
 namespace qv {
 
 class Program;
@@ -19,9 +21,17 @@ bool EmptyAutoSave(Program& app, bool Won);
 // The saved games directly in the saved-games folder whose header reads.
 std::vector<std::string> GetSavedFiles(const Program& app);
 
-// Files of a folder whose name ends in one of the extensions (any case) and whose header
-// reads, in the folder's order; the rest are passed over without a word.
-std::vector<std::string> ReadableGames(const std::string& folder, const std::vector<std::string>& extensions);
+// A saved game of a list, with the header it was listed by.
+struct ListedGame {
+  std::string path;
+  GameHeader header;
+};
+// Files of a folder whose name ends in one of the extensions (any case; none: every file)
+// and whose header reads, in the folder's order; the rest are passed over without a word.
+// Each header is read once, here, for whatever shows the list.
+std::vector<ListedGame> ListGames(const std::string& folder, const std::vector<std::string>& extensions);
+std::vector<ListedGame> ListAutoSaves(const Program& app, bool Won);
+std::vector<std::string> Paths(const std::vector<ListedGame>& games);
 // The first free path "stem" + suffix(i) + ext in a folder, i counting from 0 (no suffix).
 std::string FreeName(const std::string& folder, const std::string& stem, const std::string& ext,
                      std::string (*suffix)(int));

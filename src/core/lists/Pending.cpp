@@ -46,7 +46,8 @@ bool SavePendingFile(Program& app, const std::string& PendFile) {
   return saved;
 }
 
-std::vector<std::string> GetPendingFiles(const Program& app) { return ReadableGames(app.cData.PendingFolder(), {}); }
+std::vector<ListedGame> ListPending(const Program& app) { return ListGames(app.cData.PendingFolder(), {}); }
+std::vector<std::string> GetPendingFiles(const Program& app) { return Paths(ListPending(app)); }
 
 std::vector<PendingEntry> PendingMenuEntries(const Program& app) {
   std::vector<PendingEntry> entries;
@@ -54,11 +55,8 @@ std::vector<PendingEntry> PendingMenuEntries(const Program& app) {
   if (gp.IsPending() && gp.Game_Status() == 1)
     entries.push_back({Stem(gp.PendFile()) + " (" + std::to_string(gp.Percentage()) + "% Completed) - (Now Playing)",
                        gp.PendFile(), true});
-  for (const auto& path : GetPendingFiles(app)) {
-    const auto h = ReadGameHeader(path);
-    if (!h) continue;  // gone since it was listed
-    entries.push_back({Stem(path) + " (" + std::to_string(h->Percentage) + "% Completed)", path});
-  }
+  for (const auto& [path, header] : ListPending(app))
+    entries.push_back({Stem(path) + " (" + std::to_string(header.Percentage) + "% Completed)", path});
   return entries;
 }
 

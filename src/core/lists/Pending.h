@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "lists/AutoSave.h"
+
 namespace qv {
 
 class Program;
@@ -17,6 +19,7 @@ void MoveToPending(Program& app);
 bool SavePendingFile(Program& app, const std::string& PendFile);
 // Every file of the pending folder whose header reads, whatever its extension.
 std::vector<std::string> GetPendingFiles(const Program& app);
+std::vector<ListedGame> ListPending(const Program& app);
 
 // One entry of the pending menu: "<file name less extension> (<n>% Completed)".
 // The game being played from the list has no file meanwhile; its entry says so and is
