@@ -63,6 +63,7 @@ MainWindow::~MainWindow() {
 
 void MainWindow::Load() {
   setWindowTitle(QString::fromStdString(app_->cData.ProdName()));
+  loaded_ = true;
   StartUp(*app_);
   // Saved games open from the file manager once their types are known to the desktop.
   if (GetFileClass(*app_, app_->cData.IncExt()).empty() || GetFileClass(*app_, app_->cData.FinExt()).empty())
@@ -192,7 +193,8 @@ void MainWindow::OpenWindow(const std::string& key) { windowOpener(QString::from
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   // The stop cannot be refused: the game on the table is kept or ended, then all goes.
-  if (!stopped_) {
+  // Closed before it loaded (a stop during the splash): the last session's marks stay.
+  if (loaded_ && !stopped_) {
     stopped_ = true;
     for (auto& timer : timers_) timer->stop();
     app_->cGamePlay.Unload();
