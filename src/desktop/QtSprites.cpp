@@ -5,6 +5,7 @@
 #include <QGraphicsScene>
 #include <QGraphicsView>
 #include <QThread>
+#include <algorithm>
 #include <cmath>
 
 #include "CardPainter.h"
@@ -20,7 +21,10 @@ int KeyOf(const Picture& p) { return p.kind * 1000 + p.number; }
 }  // namespace
 
 QtSprites::QtSprites(QGraphicsScene& scene, QGraphicsView& view) : scene_(scene), view_(view) {
-  for (auto& set : sets_) set.push_back({NewItem(), {}});
+  for (auto& set : sets_) {
+    set.emplace_back();
+    set.back().item = NewItem();
+  }
   Of(Sprites::PicCD)[0].item->setData(kCardRole, 0);
   frameClock_.start();
 }
@@ -40,7 +44,7 @@ void QtSprites::MakeElement(Sprites c, int i) {
   if (!set[i].item) set[i].item = NewItem();
   set[i].picture = set[0].picture;
   set[i].item->setVisible(false);
-  set[i].item->setParentItem(nullptr);
+  set[i].carrier = -1;
   set[i].item->setPos(set[0].item->pos());
   if (c == Sprites::PicCD) set[i].item->setData(kCardRole, i);
   Show(set[i]);
@@ -48,9 +52,11 @@ void QtSprites::MakeElement(Sprites c, int i) {
 
 void QtSprites::RemoveElement(Sprites c, int i) {
   auto& set = Of(c);
-  for (QGraphicsItem* child : set[i].item->childItems()) child->setParentItem(nullptr);
+  for (auto& e : set)
+    if (e.carrier == i) e.carrier = -1;
   delete set[i].item;
-  set[i].item = nullptr;
+  set[i].item = {};
+  set[i].carrier = -1;
   while (set.size() > 1 && !set.back().item) set.pop_back();
 }
 
@@ -78,15 +84,55 @@ void QtSprites::SetPicture(Sprites c, int i, Picture p) {
   Show(e);
 }
 
-void QtSprites::Move(Sprites c, int i, double left, double top) { Of(c)[i].item->setPos(left, top); }
-double QtSprites::Left(Sprites c, int i) const { return Of(c)[i].item->pos().x(); }
-double QtSprites::Top(Sprites c, int i) const { return Of(c)[i].item->pos().y(); }
-void QtSprites::BringToFront(Sprites c, int i) { Of(c)[i].item->setZValue(++z_); }
+// A group that hangs on the pointer is kept here, not as Qt child items: a child would take
+// on its carrier's scale from pixels to twips a second time and be drawn many times too big.
+void QtSprites::Move(Sprites c, int i, double left, double top) {
+  Element& e = Of(c)[i];
+  if (c == Sprites::PicCD && e.carrier >= 0) {
+    e.offset = QPointF(left, top);
+    e.item->setPos(Of(c)[e.carrier].item->pos() + e.offset);
+    return;
+  }
+  e.item->setPos(left, top);
+  if (c == Sprites::PicCD) PlaceCarried(i);
+}
+
+double QtSprites::Left(Sprites c, int i) const {
+  const Element& e = Of(c)[i];
+  return e.carrier >= 0 ? e.offset.x() : e.item->pos().x();
+}
+
+double QtSprites::Top(Sprites c, int i) const {
+  const Element& e = Of(c)[i];
+  return e.carrier >= 0 ? e.offset.y() : e.item->pos().y();
+}
+
+void QtSprites::BringToFront(Sprites c, int i) {
+  Of(c)[i].item->setZValue(++z_);
+  if (c == Sprites::PicCD) PlaceCarried(i);
+}
+
+void QtSprites::PlaceCarried(int i) {
+  auto& cards = Of(Sprites::PicCD);
+  const QPointF at = cards[i].item->pos();
+  // Riders are made in order from the lowest up, so their indices' order is not theirs:
+  // they stand by their offsets.
+  std::vector<Element*> riders;
+  for (auto& e : cards)
+    if (e.item && e.carrier == i) riders.push_back(&e);
+  std::sort(riders.begin(), riders.end(), [](auto* a, auto* b) { return a->offset.y() < b->offset.y(); });
+  for (Element* e : riders) {
+    e->item->setPos(at + e->offset);
+    e->item->setZValue(++z_);
+  }
+}
 void QtSprites::SetVisible(Sprites c, int i, bool visible) { Of(c)[i].item->setVisible(visible); }
 
 void QtSprites::SetParent(int card, int parent) {
-  auto& cards = Of(Sprites::PicCD);
-  cards[card].item->setParentItem(parent < 0 ? nullptr : cards[parent].item);
+  Element& e = Of(Sprites::PicCD)[card];
+  if (parent < 0 && e.carrier >= 0) e.item->setPos(Of(Sprites::PicCD)[e.carrier].item->pos() + e.offset);
+  e.carrier = parent;
+  e.offset = QPointF();
 }
 
 void QtSprites::PaintFrame() {

@@ -47,12 +47,16 @@ class QtSprites : public ISprites {
   struct Element {
     QGraphicsPixmapItem* item = nullptr;
     Picture picture;
+    int carrier = -1;  // a card that rides on another stands at its carrier's place + offset
+    QPointF offset;
   };
   std::vector<Element>& Of(Sprites c) { return sets_[static_cast<int>(c)]; }
   const std::vector<Element>& Of(Sprites c) const { return sets_[static_cast<int>(c)]; }
   QGraphicsPixmapItem* NewItem() const;
   const QPixmap& PixmapOf(const Picture& p);
   void Show(Element& e);
+  // Places the cards that ride on card i, in their order above it.
+  void PlaceCarried(int i);
 
   QGraphicsScene& scene_;
   QGraphicsView& view_;

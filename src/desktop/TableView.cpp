@@ -28,7 +28,8 @@ TableView::TableView(QGraphicsScene* scene, QWidget* parent) : QGraphicsView(sce
 }
 
 void TableView::FitTable() {
-  if (!sprites_ || viewport()->width() <= 0) return;
+  // The zoom holds still while cards hang on the pointer; the drop fits the table again.
+  if (!sprites_ || !app_ || viewport()->width() <= 0 || app_->drag.Dragging) return;
   const double lowest = std::max(kMinTableHeight, scene()->itemsBoundingRect().bottom() + kBottomMargin);
   const double byWidth = viewport()->width() / kTableWidth;
   const double byHeight = viewport()->height() / lowest;

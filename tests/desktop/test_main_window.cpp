@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QGraphicsItem>
 #include <QGraphicsView>
 #include <QtTest>
 
@@ -31,6 +32,12 @@ class TestMainWindow : public QObject {
     return At(w_->sprites().Left(Sprites::PicCD, pic) + 500, w_->sprites().Top(Sprites::PicCD, pic) + 40);
   }
   void Deal(uint64_t n) { app().cGamePlay.PlayNumber("Spider", GameNo::Number(n)); }
+  // Where a card's picture stands on the table, in twips.
+  QRectF CardRect(int pic) {
+    for (QGraphicsItem* item : w_->view().scene()->items())
+      if (item->data(0).isValid() && item->data(0).toInt() == pic) return item->sceneBoundingRect();
+    return {};
+  }
 
  private slots:
   void init() {
@@ -132,6 +139,16 @@ class TestMainWindow : public QObject {
     const QPoint end = At(w_->sprites().Left(Sprites::PicCD, target) + 500, w_->sprites().Top(Sprites::PicCD, target) + 40);
     QTest::mousePress(viewport(), Qt::LeftButton, {}, start);
     QTest::mouseMove(viewport(), end);
+    // While it hangs on the pointer the run keeps the size of cards and their steps.
+    const QRectF footRect = CardRect(foot);
+    for (int i = 1; i <= 2; ++i) {
+      const QRectF rider = CardRect(app().cPlay.Sel()[i]);
+      QVERIFY(qAbs(rider.width() - footRect.width()) < 2);
+      QVERIFY(qAbs(rider.top() - footRect.top() - 250 * i) < 2);
+    }
+    const double zoom = w_->view().transform().m11();
+    QTest::qWait(250);  // the main timer does not shrink the table under a drag
+    QCOMPARE(w_->view().transform().m11(), zoom);
     QTest::mouseRelease(viewport(), Qt::LeftButton, {}, end);
     QCOMPARE(app().cEngine.Record(app().cEngine.GetTransID()).mCards, 2);
     QCOMPARE(app().cPlay.Pile(foot), 6);
