@@ -10,7 +10,9 @@
 # Two kinds of start are timed, `runs` of each:
 #   first start  every run in a new, empty home: the program sets up its settings and
 #                registers its file types with the desktop on the way;
-#   later start  every run in one home that an untimed start has already set up.
+#   later start  every run in one home that an untimed start has already set up. The
+#                script stops the program with SIGTERM, which keeps the game on the table,
+#                so each later start brings back the game of the run before.
 # The homes are temporary (HOME and the XDG folders point into them), so the user's real
 # settings and saved games are never touched. The display (:97 unless QV_DISPLAY says
 # otherwise) is started and stopped here. Needs Xvfb, xdpyinfo and xdotool; without
