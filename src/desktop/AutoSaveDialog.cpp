@@ -10,6 +10,7 @@
 
 #include "lists/AutoSave.h"
 #include "scores/ScoreText.h"
+#include "DialogParts.h"
 #include "session/Program.h"
 #include "session/SavedGameFile.h"
 #include "settings/SettingKeys.h"
@@ -17,13 +18,6 @@
 namespace qv {
 
 namespace {
-// Each column as wide as its widest text and a gap, so neighbouring texts never touch.
-void FitColumns(QTreeWidget* list) {
-  for (int c = 1; c < list->columnCount(); ++c) {
-    list->resizeColumnToContents(c);
-    list->setColumnWidth(c, list->columnWidth(c) + 16);
-  }
-}
 QTreeWidget* GameList(const char* name, const QStringList& columns) {
   auto* list = new QTreeWidget;
   list->setObjectName(name);
@@ -39,12 +33,6 @@ QTreeWidget* GameList(const char* name, const QStringList& columns) {
   return list;
 }
 
-QPushButton* Button(const char* name, const char* text) {
-  auto* b = new QPushButton(text);
-  b->setObjectName(name);
-  b->setAutoDefault(false);
-  return b;
-}
 
 QWidget* Page(QTreeWidget* list) {
   auto* page = new QWidget;
@@ -61,17 +49,17 @@ AutoSaveDialog::AutoSaveDialog(Program& app, QWidget* parent)
       tabs_(new QTabWidget),
       inc_(GameList("lvInc", {"Game", "Date Played", "Time", "Perc"})),
       fin_(GameList("lvFin", {"Game ", "Date Played", "Time", "Score"})),
-      play_(Button("cmdPlay", "Play")),
-      delete_(Button("cmdDelete", "Delete")),
-      empInc_(Button("cmdEmpInc", "Empty Incomplete Games")),
-      empFin_(Button("cmdEmpFin", "Empty Finished Games")) {
+      play_(NamedButton("cmdPlay", "Play")),
+      delete_(NamedButton("cmdDelete", "Delete")),
+      empInc_(NamedButton("cmdEmpInc", "Empty Incomplete Games")),
+      empFin_(NamedButton("cmdEmpFin", "Empty Finished Games")) {
   setWindowTitle("Auto Save");
   setModal(true);
   tabs_->setObjectName("SSTab1");
   tabs_->addTab(Page(inc_), " Incomplete Games");
   tabs_->addTab(Page(fin_), "Finished Games");
 
-  auto* close = Button("cmdClose", "Close");
+  auto* close = NamedButton("cmdClose", "Close");
   close->setDefault(true);
   connect(play_, &QPushButton::clicked, this, &AutoSaveDialog::Play);
   connect(delete_, &QPushButton::clicked, this, &AutoSaveDialog::Delete);

@@ -6,6 +6,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "DialogParts.h"
 #include "session/Program.h"
 #include "settings/SettingKeys.h"
 
@@ -23,12 +24,6 @@ QTreeWidget* GameList(const char* name, const char* header) {
   return list;
 }
 
-QPushButton* Button(const char* name, const char* text) {
-  auto* b = new QPushButton(text);
-  b->setObjectName(name);
-  b->setAutoDefault(false);
-  return b;
-}
 
 void ChooseFirst(QTreeWidget* list) {
   if (!list->currentItem() && list->topLevelItemCount() > 0) list->setCurrentItem(list->topLevelItem(0));
@@ -40,8 +35,8 @@ HotGamesDialog::HotGamesDialog(Program& app, QWidget* parent)
       app_(app),
       left_(GameList("lvLeft", "Games List")),
       right_(GameList("lvRight", "Hot Games List")),
-      add_(Button("cmdAdd", ">>")),
-      remove_(Button("cmdRemove", "<<")) {
+      add_(NamedButton("cmdAdd", ">>")),
+      remove_(NamedButton("cmdRemove", "<<")) {
   setWindowTitle("Hot Games");
   setModal(true);
   for (int id = 1; id <= app_.cData.TotalGames(); ++id) {
@@ -53,7 +48,7 @@ HotGamesDialog::HotGamesDialog(Program& app, QWidget* parent)
   ChooseFirst(left_);
   ChooseFirst(right_);
 
-  auto* close = Button("cmdClose", "Close");
+  auto* close = NamedButton("cmdClose", "Close");
   close->setDefault(true);
   connect(add_, &QPushButton::clicked, this, [this] { Move(left_, right_, 1); });
   connect(remove_, &QPushButton::clicked, this, [this] { Move(right_, left_, 0); });

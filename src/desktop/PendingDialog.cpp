@@ -9,33 +9,21 @@
 
 #include "lists/Pending.h"
 #include "scores/ScoreText.h"
+#include "DialogParts.h"
 #include "session/Program.h"
 #include "session/SavedGameFile.h"
 
 namespace qv {
 
 namespace {
-// Each column as wide as its widest text and a gap, so neighbouring texts never touch.
-void FitColumns(QTreeWidget* list) {
-  for (int c = 1; c < list->columnCount(); ++c) {
-    list->resizeColumnToContents(c);
-    list->setColumnWidth(c, list->columnWidth(c) + 16);
-  }
-}
-QPushButton* Button(const char* name, const char* text) {
-  auto* b = new QPushButton(text);
-  b->setObjectName(name);
-  b->setAutoDefault(false);
-  return b;
-}
 }  // namespace
 
 PendingDialog::PendingDialog(Program& app, QWidget* parent)
     : QDialog(parent),
       app_(app),
       list_(new QTreeWidget),
-      play_(Button("cmdPlay", "Play Now")),
-      delete_(Button("cmdDelete", "Delete ")) {
+      play_(NamedButton("cmdPlay", "Play Now")),
+      delete_(NamedButton("cmdDelete", "Delete ")) {
   setWindowTitle("Pending List Manager");
   setModal(true);
   list_->setObjectName("lvPend");
@@ -49,7 +37,7 @@ PendingDialog::PendingDialog(Program& app, QWidget* parent)
   // Numbers line up on the right, under their headings.
   for (int c = 1; c < 4; ++c) list_->headerItem()->setTextAlignment(c, Qt::AlignRight | Qt::AlignVCenter);
 
-  auto* close = Button("cmdClose", "Close");
+  auto* close = NamedButton("cmdClose", "Close");
   close->setDefault(true);
   connect(play_, &QPushButton::clicked, this, &PendingDialog::Play);
   connect(delete_, &QPushButton::clicked, this, &PendingDialog::Delete);
