@@ -80,7 +80,9 @@ TEST_F(Pointer, AGroupMovesAsOneRecordAndLandsInOrder) {
     const int pic = t->cPlay.GetPicID(0, 5, q);
     EXPECT_EQ(Sprite(pic).parent, -1);
     EXPECT_EQ(Sprite(pic).top, t->cGames.GetCordY(0, 5, q));
-    if (q > toTop + 1) EXPECT_GT(Sprite(pic).z, Sprite(t->cPlay.GetPicID(0, 5, q - 1)).z);
+    if (q > toTop + 1) {
+      EXPECT_GT(Sprite(pic).z, Sprite(t->cPlay.GetPicID(0, 5, q - 1)).z);
+    }
   }
   EXPECT_EQ(Sprite(foot).height, 1440);
 }
