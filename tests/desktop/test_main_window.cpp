@@ -205,8 +205,9 @@ class TestMainWindow : public QObject {
       if (c.Cell == 1) continue;  // the Stock's cards lie where they were placed
       // A pile's column; its height was worked out when the card came, so only its order is checked.
       QCOMPARE(w_->sprites().Left(Sprites::PicCD, pic), double(app().cGames.GetCordX(c.Cell, c.Pile, c.Pos)));
-      if (c.Pos > 0)
+      if (c.Pos > 0) {
         QVERIFY(w_->sprites().Top(Sprites::PicCD, pic) > w_->sprites().Top(Sprites::PicCD, t.GetPicID(0, c.Pile, c.Pos - 1)));
+      }
     }
   }
 
