@@ -17,6 +17,7 @@
 #include "AnimationDialog.h"
 #include "CardDeckDialog.h"
 #include "MainWindow.h"
+#include "ModalProbe.h"
 #include "OptionsDialog.h"
 #include "TestProgram.h"
 #include "ToolbarDialog.h"
@@ -268,15 +269,7 @@ class DialogTest : public QObject {
     const QStringList keys{"Toolbar", "Animation", "Deck", "Options"};
     const QStringList titles{"Customize Toolbar", "Animation", "Customize Card Deck", "Options"};
     for (int i = 0; i < keys.size(); ++i) {
-      QString seen;
-      QTimer::singleShot(0, [&] {
-        if (QWidget* modal = QApplication::activeModalWidget()) {
-          seen = modal->windowTitle();
-          modal->close();
-        }
-      });
-      OpenProgramWindow(main, keys[i]);
-      QCOMPARE(seen, titles[i]);
+      QCOMPARE(TitleOfModalOpenedBy([&] { OpenProgramWindow(main, keys[i]); }), titles[i]);
     }
   }
 };

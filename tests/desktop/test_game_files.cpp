@@ -16,6 +16,7 @@
 #include "FileCommands.h"
 #include "HotGamesDialog.h"
 #include "MainWindow.h"
+#include "ModalProbe.h"
 #include "OptionsDialog.h"
 #include "PendingDialog.h"
 #include "TestProgram.h"
@@ -335,15 +336,7 @@ class GameFilesTest : public QObject {
 
     const QStringList keys{"AutoSave", "OrgPend", "Hot"}, titles{"Auto Save", "Pending List Manager", "Hot Games"};
     for (int i = 0; i < keys.size(); ++i) {
-      QString seen;
-      QTimer::singleShot(0, [&] {
-        if (QWidget* modal = QApplication::activeModalWidget()) {
-          seen = modal->windowTitle();
-          modal->close();
-        }
-      });
-      OpenProgramWindow(main, keys[i]);
-      QCOMPARE(seen, titles[i]);
+      QCOMPARE(TitleOfModalOpenedBy([&] { OpenProgramWindow(main, keys[i]); }), titles[i]);
     }
   }
 };
