@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QTextBrowser>
 #include <QVBoxLayout>
@@ -11,6 +12,7 @@
 #include "CardDeckDialog.h"
 #include "FileCommands.h"
 #include "HotGamesDialog.h"
+#include "CardPainter.h"
 #include "MainWindow.h"
 #include "OptionsDialog.h"
 #include "PendingDialog.h"
@@ -25,14 +27,23 @@ void ShowAbout(MainWindow& main) {
   QDialog about(&main);
   about.setWindowTitle("About " + QString::fromStdString(main.app().cData.ProdName()));
   auto* layout = new QVBoxLayout(&about);
+  auto* row = new QHBoxLayout;
+  auto* king = new QLabel;
+  king->setPixmap(CardPainter::Paint({Picture::Face, 13}, QSize(96, 130), about.devicePixelRatioF()));
+  row->addWidget(king);
+  auto* text = new QVBoxLayout;
   auto* name = new QLabel(QString::fromStdString(main.app().cData.ProdNameX()));
   QFont big = name->font();
   big.setPointSizeF(big.pointSizeF() * 2);
   big.setBold(true);
   name->setFont(big);
-  layout->addWidget(name);
-  layout->addWidget(new QLabel("Version " + QString::fromStdString(main.app().cData.Version())));
-  layout->addWidget(new QLabel("Spider solitaire: seven two-deck games and your own."));
+  text->addWidget(name);
+  text->addWidget(new QLabel("Version " + QString::fromStdString(main.app().cData.Version())));
+  text->addWidget(new QLabel("Spider solitaire: seven two-deck games and your own."));
+  text->addStretch();
+  row->addLayout(text);
+  row->setSpacing(16);
+  layout->addLayout(row);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
   QObject::connect(buttons, &QDialogButtonBox::accepted, &about, &QDialog::accept);
   layout->addWidget(buttons);
