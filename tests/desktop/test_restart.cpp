@@ -28,7 +28,7 @@ class TestRestart : public QObject {
     program.setProcessEnvironment(env);
     program.start(QUORVALE_APP, args);
     QVERIFY(program.waitForStarted());
-    QTest::qWait(4500);
+    QTest::qWait(7000);  // the splash, then the deal animated frame by frame
     program.terminate();
     QVERIFY(program.waitForFinished(10000));
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
