@@ -263,6 +263,20 @@ TEST(SessionStop, UnloadKeepsARunningGameForTheNextStart) {
   EXPECT_EQ(t->cData.UnFinFile(), (t.home.Path() / "data" / "Velmarin Works" / "Quorvale 6.0" / "Unfin.vq0").string());
 }
 
+TEST(SessionStop, AStopWhileAGameIsDealtKeepsTheWaitingGame) {
+  test::TestProgram t;
+  t.settings.WriteInt("General", "UnFin", 1);
+  bool stopped = false;
+  t.sprites.onYield = [&] {
+    if (stopped) return;
+    stopped = true;
+    t->cGamePlay.Unload();
+  };
+  t.Deal("Spider", 31);
+  EXPECT_TRUE(stopped);
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 1);
+}
+
 TEST(SessionStop, UnloadWithoutKeepingOrWithoutAGameLeavesNothingWaiting) {
   test::TestProgram t;
   t.settings.WriteInt("General", "UnFin", 1);

@@ -31,6 +31,11 @@ bool cGamePlay::StartGame(const std::string& cGameName, const qv::GameNo& cGameN
   }
   if (status_ == 1 && !EndGame(0, false)) return false;
   if (status_ == 2) ClearArea();
+  starting_ = true;
+  struct Started {
+    bool& flag;
+    ~Started() { flag = false; }
+  } started{starting_};
   pauseStatus_ = false;
   loadingType_ = cLoadType;
   // The background picker joins with the backgrounds; WPTimerValue 4 asks for it here.
@@ -136,6 +141,9 @@ void cGamePlay::ClearArea() {
 }
 
 void cGamePlay::Unload() {
+  // A stop that comes while a game is still being dealt (a logout in the first seconds)
+  // leaves the last session's marks and files as they were.
+  if (starting_) return;
   app_.cRegistry.Set(setting::UnFin, 0);
   if (status_ != 1) return;
   if (loadingType_ == kPendingGame) {
