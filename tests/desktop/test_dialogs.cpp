@@ -18,6 +18,7 @@
 #include "CardDeckDialog.h"
 #include "MainWindow.h"
 #include "ModalProbe.h"
+#include "TemporaryUserHome.h"
 #include "OptionsDialog.h"
 #include "TestProgram.h"
 #include "ToolbarDialog.h"
@@ -47,15 +48,9 @@ void Click(QTreeWidget* tree, QTreeWidgetItem* item) {
 
 class DialogTest : public QObject {
   Q_OBJECT
-  QTemporaryDir home_;
+  TemporaryUserHome home_;
 
  private slots:
-  void initTestCase() {
-    // The main window finds its folders from the environment: keep them out of the user's.
-    qputenv("HOME", home_.path().toUtf8());
-    qputenv("XDG_DATA_HOME", (home_.path() + "/data").toUtf8());
-    qputenv("XDG_CONFIG_HOME", (home_.path() + "/config").toUtf8());
-  }
 
   void optionsWriteAtOnce() {
     test::TestProgram t;

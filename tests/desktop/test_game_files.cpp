@@ -17,6 +17,7 @@
 #include "HotGamesDialog.h"
 #include "MainWindow.h"
 #include "ModalProbe.h"
+#include "TemporaryUserHome.h"
 #include "OptionsDialog.h"
 #include "PendingDialog.h"
 #include "TestProgram.h"
@@ -61,14 +62,9 @@ bool InitDirStored(const test::TestProgram& t) {
 
 class GameFilesTest : public QObject {
   Q_OBJECT
-  QTemporaryDir home_;
+  TemporaryUserHome home_;
 
  private slots:
-  void initTestCase() {
-    qputenv("HOME", home_.path().toUtf8());
-    qputenv("XDG_DATA_HOME", (home_.path() + "/data").toUtf8());
-    qputenv("XDG_CONFIG_HOME", (home_.path() + "/config").toUtf8());
-  }
 
   void openPlaysAGoodFileAndRefusesABadOne() {
     test::TestProgram t;

@@ -5,6 +5,7 @@
 
 #include "MainWindow.h"
 #include "QtSprites.h"
+#include "TemporaryUserHome.h"
 #include "TableView.h"
 #include "engine/Rules.h"
 #include "session/CommandTable.h"
@@ -19,6 +20,7 @@ class TestMainWindow : public QObject {
   Q_OBJECT
 
  private:
+  TemporaryUserHome home_;
   std::unique_ptr<MemorySettingsStore> store_;
   std::unique_ptr<MainWindow> w_;
   QStringList opened_;
