@@ -10,6 +10,7 @@
 #include "engine/Pointer.h"
 #include "session/Commands.h"
 #include "session/Program.h"
+#include "session/StartUp.h"
 
 namespace qv {
 
@@ -105,7 +106,7 @@ CommandError ScriptRunner::Execute(const std::vector<std::string>& w, bool& fini
     app_.cGamePlay.Update_Title();
     out_ << app_.cGamePlay.Title() << "\n";
   } else if (cmd == "exit") {
-    app_.cGamePlay.Unload();
+    ShutDown(app_);
     finished = true;
   } else {
     return Usage("unknown command \"" + cmd + "\"");

@@ -43,6 +43,7 @@ MainWindow::MainWindow(ISettingsStore& store, QWidget* parent)
   connect(&TimerOf(Timer::Main), &QTimer::timeout, this, [this] {
     UpdateCommands();
     view_->FitTable();
+    app_->keeper.Tick();
   });
   connect(&TimerOf(Timer::Time), &QTimer::timeout, this, [this] { app_->cGamePlay.Update_Title(); });
   connect(&TimerOf(Timer::Game), &QTimer::timeout, this, [this] { app_->cGamePlay.TickGame(); });
@@ -192,13 +193,14 @@ void MainWindow::SetStopEnabled(bool enabled) {
 void MainWindow::OpenWindow(const std::string& key) { windowOpener(QString::fromStdString(key)); }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  // The stop cannot be refused: the game on the table is kept or ended, then all goes.
+  // The stop cannot be refused: the game on the table is kept or ended, then all goes. One
+  // that comes while cards move waits for the move's end and then closes the window again.
   // Closed before it loaded (a stop during the splash): the last session's marks stay.
-  if (loaded_ && !stopped_) {
-    stopped_ = true;
-    for (auto& timer : timers_) timer->stop();
-    app_->cGamePlay.Unload();
+  if (loaded_ && !StopProgram(*app_, [this] { close(); })) {
+    event->ignore();
+    return;
   }
+  for (auto& timer : timers_) timer->stop();
   event->accept();
 }
 

@@ -84,8 +84,7 @@ class MainWindow : public QMainWindow, public IWindow {
   std::array<QMenu*, 3> recentMenus_{};  // by list: played, saved, opened
   QMenu* pendMenu_ = nullptr;
   std::vector<QAction*> pendEntries_;
-  bool loaded_ = false;   // the load step has run: there is a session to stop
-  bool stopped_ = false;
+  bool loaded_ = false;  // the load step has run: there is a session to stop
 };
 
 }  // namespace qv

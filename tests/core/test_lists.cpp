@@ -145,12 +145,21 @@ TEST_F(PendingList, MovedGamesTakeFreeNamesAndComeBack) {
   const auto entries = PendingMenuEntries(*t.app);
   ASSERT_EQ(entries.size(), 3u);
   EXPECT_NE(entries[0].caption.find(" (0% Completed)"), std::string::npos);
-  ASSERT_TRUE(t->cGamePlay.PlayPendFile(entries[0].path));
+  // Taken up, the entry keeps its place and says so; the rebuild after the deal leaves it out.
+  std::vector<PendingEntry> taking;
+  t.window.onRefreshMenus = [&] { taking = PendingMenuEntries(*t.app); };
+  ASSERT_TRUE(t->cGamePlay.PlayPendFile(entries[1].path));
+  t.window.onRefreshMenus = nullptr;
   EXPECT_EQ(t->cEngine.GetTransID(), 10);
+  ASSERT_EQ(taking.size(), 3u);
+  EXPECT_EQ(taking[1].caption, entries[1].caption + " - (Now Playing)");
+  EXPECT_TRUE(taking[1].playing);
+  EXPECT_FALSE(taking[0].playing || taking[2].playing);
   const auto playing = PendingMenuEntries(*t.app);
-  ASSERT_EQ(playing.size(), 3u);
-  EXPECT_TRUE(playing[0].playing);
-  EXPECT_NE(playing[0].caption.find(" - (Now Playing)"), std::string::npos);
+  ASSERT_EQ(playing.size(), 2u);
+  EXPECT_EQ(playing[0].path, entries[0].path);
+  EXPECT_EQ(playing[1].path, entries[2].path);
+  EXPECT_EQ(GetPendingFiles(*t.app).size(), 2u);
   // A game from the list cannot be moved there again.
   ExecCommand(*t.app, "AddPend");
   EXPECT_EQ(t.dialogs.shown.back(),
@@ -185,6 +194,7 @@ TEST_F(PendingList, APendingGameThatCannotGoBackAtStopIsKeptAsACopy) {
   ExecCommand(*t.app, "AddPend");
   const std::string pending = GetPendingFiles(*t.app).at(0);
   ASSERT_TRUE(t->cGamePlay.PlayPendFile(pending));
+  fs::remove(pending);
   fs::create_directory(pending);  // its old name is taken now
   t->cGamePlay.Unload();
   const auto copies = GetAutoSaveFiles(*t.app, false);

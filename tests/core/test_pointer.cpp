@@ -134,22 +134,6 @@ TEST_F(Pointer, TheStockDealsARowAndStartsNoDrag) {
   EXPECT_TRUE(t->cPlay.FaceMode(stockTop));
 }
 
-TEST_F(Pointer, APressOnTheStockDuringARowDealsASecondRowSafely) {
-  t.Deal("Spider", 1);
-  const auto dealt = test::Snapshot(*t.app);
-  int presses = 0;
-  t.sprites.onYield = [&] {
-    if (presses++ == 3) ClickCard(*t.app, t->cPlay.GetTopPicID(1, 0));
-  };
-  ClickCard(*t.app, t->cPlay.GetTopPicID(1, 0));
-  t.sprites.onYield = nullptr;
-  EXPECT_EQ(t->cPlay.GetTop(1, 0), 39);
-  for (int p = 0; p < 10; ++p) EXPECT_EQ(t->cPlay.GetTop(0, p), (p < 4 ? 4 : 3) + 2) << p;
-  int speed = 0;
-  t->cEngine.UndoAll(speed);
-  EXPECT_EQ(test::Snapshot(*t.app), dealt);
-}
-
 TEST_F(Pointer, EmptyPilesAreFoundAboveTheirMarker) {
   test::PlayWithRules(t, kAnyCard);
   while (t->cPlay.GetTop(0, 9) >= 0) DragCardToPile(*t.app, Top(9), 8);

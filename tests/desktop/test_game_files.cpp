@@ -257,7 +257,7 @@ class GameFilesTest : public QObject {
     Get<QPushButton>(dlg, "cmdPlay")->click();
     QVERIFY(!dlg.isVisible());
     QCOMPARE(t->cGamePlay.PendFile(), files[2]);
-    QVERIFY(!fs::exists(files[2]));  // the game lives on the table until it ends
+    QVERIFY(fs::exists(files[2]));  // kept current while its game is on the table, and listed nowhere
 
     // The last row deleted leaves the window open and empty.
     PendingDialog last(*t);

@@ -1,55 +1,84 @@
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include "TestProgram.h"
 #include "session/SavedGameFile.h"
 
-// The real program, twice, with a home of its own: the game left on the table at the first
-// stop comes back at the second start, where it was.
+// The real program with a home of its own, stopped as a logout stops it and killed as a
+// crash would end it: the game on the table comes back at the next start, where it was.
 class TestRestart : public QObject {
   Q_OBJECT
 
  private:
   QTemporaryDir home_;
+  QProcess program_;
 
   QString UnfinFile() const { return home_.filePath("data/Velmarin Works/Quorvale 6.0/Unfin.vq0"); }
   QString Settings() const {
     QFile f(home_.filePath("config/Quorvale/6.0/quorvale.ini"));
     return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
   }
-  // Starts the program, lets the splash go and the game come, and stops it as a logout does.
-  void RunOnce(const QStringList& args = {}) {
-    QProcess program;
+  std::optional<qv::GameHeader> Unfinished() const { return qv::ReadGameHeader(UnfinFile().toStdString()); }
+  QDateTime UnfinWritten() const { return QFileInfo(UnfinFile()).lastModified(); }
+
+  void Start(const QStringList& args = {}) {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert("HOME", home_.path());
     env.insert("XDG_CONFIG_HOME", home_.filePath("config"));
     env.insert("XDG_DATA_HOME", home_.filePath("data"));
     env.insert("QT_QPA_PLATFORM", "offscreen");
-    program.setProcessEnvironment(env);
-    program.start(QUORVALE_APP, args);
-    QVERIFY(program.waitForStarted());
-    QTest::qWait(7000);  // the splash, then the deal animated frame by frame
-    program.terminate();
-    QVERIFY(program.waitForFinished(10000));
-    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    program_.setProcessEnvironment(env);
+    program_.start(QUORVALE_APP, args);
+    QVERIFY(program_.waitForStarted());
+  }
+  // The game is dealt or rebuilt once the program keeps it: its file is written anew.
+  void WaitForTheGameKept(const QDateTime& before) {
+    QTRY_VERIFY_WITH_TIMEOUT(Settings().contains("UnFin=1") && UnfinWritten() != before, 20000);
+  }
+  void Stop(bool kill) {
+    kill ? program_.kill() : program_.terminate();
+    QVERIFY(program_.waitForFinished(10000));
+    QCOMPARE(program_.exitStatus(), kill ? QProcess::CrashExit : QProcess::NormalExit);
   }
 
  private slots:
-  void theUnfinishedGameComesBack() {
+  void theGameComesBackAfterAStopAndAfterAKill() {
     QVERIFY(home_.isValid());
-    RunOnce();
-    QVERIFY(QFile::exists(UnfinFile()));
-    QVERIFY(Settings().contains("UnFin=1"));
-    const auto first = qv::ReadGameHeader(UnfinFile().toStdString());
-    QVERIFY(first.has_value());
+    // A game with a row played, given on the command line.
+    const QString saved = home_.filePath("row.vq0");
+    {
+      qv::test::TestProgram t;
+      t.Deal("Spider Two Suit", 31);
+      qv::test::DealRows(t, 1);
+      QVERIFY(t->cEngine.SavetoFile(saved.toStdString()));
+    }
+    Start({saved});
+    WaitForTheGameKept({});
+    Stop(true);
+    QVERIFY(Settings().contains("SessionRunning=1"));  // the crash left its mark
 
-    RunOnce();
-    const auto second = qv::ReadGameHeader(UnfinFile().toStdString());
-    QVERIFY(second.has_value());
-    QCOMPARE(second->GameName, first->GameName);
-    QCOMPARE(second->GameNo.Text(), first->GameNo.Text());
-    QVERIFY(second->Time >= first->Time);  // its clock went on from where it stood
+    const QDateTime killed = UnfinWritten();
+    Start();
+    WaitForTheGameKept(killed);
+    auto kept = Unfinished();
+    QVERIFY(kept.has_value());
+    QCOMPARE(kept->GameName, std::string("Spider Two Suit"));
+    QCOMPARE(kept->GameNo.Text(), std::string("31"));
+    QCOMPARE(kept->Moves, 10);  // at its last step
+    Stop(false);
+    QVERIFY(Settings().contains("SessionRunning=0"));
     QVERIFY(Settings().contains("UnFin=1"));
+
+    const QDateTime stopped = UnfinWritten();
+    Start();
+    WaitForTheGameKept(stopped);
+    Stop(false);
+    kept = Unfinished();
+    QVERIFY(kept.has_value());
+    QCOMPARE(kept->GameNo.Text(), std::string("31"));
+    QCOMPARE(kept->Moves, 10);
   }
 };
 

@@ -24,8 +24,14 @@ Answer ScriptedDialogs::MsgBox(const std::string& text, MsgStyle style, const st
 
 TempHome::TempHome() {
   static std::atomic<int> counter{0};
-  path_ = std::filesystem::temp_directory_path() /
-          ("quorvale-test-" + std::to_string(getpid()) + "-" + std::to_string(counter++));
+  // Memory-backed where the machine has it: every saved game is flushed to the disk, and
+  // the tests write thousands.
+  std::error_code ec;
+  const std::filesystem::path shm = "/dev/shm";
+  const auto base = std::filesystem::is_directory(shm, ec) && access(shm.c_str(), W_OK) == 0
+                        ? shm
+                        : std::filesystem::temp_directory_path();
+  path_ = base / ("quorvale-test-" + std::to_string(getpid()) + "-" + std::to_string(counter++));
   std::filesystem::remove_all(path_);
   std::filesystem::create_directories(path_);
 }
@@ -35,7 +41,14 @@ TempHome::~TempHome() {
   std::filesystem::remove_all(path_, ec);
 }
 
-TestProgram::TestProgram() {
+TestProgram::TestProgram() { Restart(); }
+
+void TestProgram::Restart() {
+  app.reset();
+  auto hook = std::move(sprites.onYield);  // the test's, not the window's
+  sprites = RecordingSprites();
+  sprites.onYield = std::move(hook);
+  window = RecordingWindow();
   PlatformFolders folders{home.Path() / "data", home.Path() / "Documents", home.Path() / "config", home.Path() / "bin"};
   app = std::make_unique<Program>(Surface{sprites, window, dialogs, clock}, settings, folders);
 }

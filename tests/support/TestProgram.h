@@ -25,7 +25,9 @@ class ScriptedDialogs : public IDialogs {
 class FakeClock : public IClock {
  public:
   std::time_t Now() const override { return now; }
+  int64_t Millis() const override { return ms; }
   std::time_t now = 1795000000;
+  int64_t ms = 0;
 };
 
 // A folder of its own under the system's temporary folder, removed at the end.
@@ -58,6 +60,9 @@ struct TestProgram {
   Program* operator->() { return app.get(); }
   // Deals a game as New Game does with a chosen number.
   void Deal(const std::string& game, uint64_t number);
+  // The next start: a new program over the same settings and home, with a fresh window.
+  // The old one is dropped as a crash would drop it; an orderly stop is ShutDown first.
+  void Restart();
 };
 
 // The seven fields that decide a table; Spider's by default.

@@ -7,8 +7,11 @@
 
 namespace qv {
 
+// A press, release or double-click that comes while cards move is dropped: each takes a
+// step of its own, which is refused then.
 void PointerPressed(Program& app, int i, double x, double y) {
-  if (!app.cGamePlay.Game_Running()) return;
+  Motion::Step step(app.motion);
+  if (!step || !app.cGamePlay.Game_Running()) return;
   if (app.cGamePlay.PauseStatus()) app.cGamePlay.PauseGame(false);
   if (!app.surface.window.TimerEnabled(Timer::Game)) app.surface.window.EnableTimer(Timer::Game, true);
   auto& d = app.drag;
@@ -19,7 +22,7 @@ void PointerPressed(Program& app, int i, double x, double y) {
   d.StartLeft = Saturate16(RoundHalfEven(app.surface.sprites.Left(Sprites::PicCD, i)));
   d.StartTop = Saturate16(RoundHalfEven(app.surface.sprites.Top(Sprites::PicCD, i)));
   app.cPlay.MouseDown(i, app.cPlay.Cell(i), app.cPlay.Pile(i), app.cPlay.Pos(i));
-  app.surface.sprites.Yield();
+  app.motion.Yield(app.surface.sprites);
 }
 
 void PointerMoved(Program& app, int i, double x, double y) {
@@ -28,14 +31,18 @@ void PointerMoved(Program& app, int i, double x, double y) {
 }
 
 void PointerReleased(Program& app, int i) {
-  if (!app.cGamePlay.Game_Running() || !app.drag.Dragging) return;
+  Motion::Step step(app.motion);
+  if (!step || !app.cGamePlay.Game_Running() || !app.drag.Dragging) return;
   app.drag.Dragging = false;
   app.cPlay.MouseUp(i, app.cPlay.Cell(i), app.cPlay.Pile(i), app.cPlay.Pos(i));
   // The sound plays for a refused drop too.
   app.cSound.MoveCard();
 }
 
-void PointerDoubleClicked(Program& app, int i) { app.cPlay.DoubleClick(i); }
+void PointerDoubleClicked(Program& app, int i) {
+  Motion::Step step(app.motion);
+  if (step) app.cPlay.DoubleClick(i);
+}
 
 namespace {
 constexpr double kGripX = 500;

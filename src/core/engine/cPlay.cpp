@@ -36,7 +36,7 @@ void cPlay::LoadCards() {
   for (int i = 1; i <= app_.cGames.Piles(3); ++i) s.MakeElement(Sprites::PicRight, i);
   for (int i = 1; i <= app_.cGames.Piles(0); ++i) s.MakeElement(Sprites::PicHome, i);
   app_.cImages.EndFaces();
-  s.Yield();
+  app_.motion.Yield(s);
 }
 
 void cPlay::SetupGoal() {
@@ -121,7 +121,7 @@ void cPlay::AnimateCard(int mPicID, int DCell, int DPile, int DPos, int Speed, b
   s.Move(Sprites::PicCD, mPicID, X, Y);
   table_.UpdatePlace(mPicID, DCell, DPile, DPos, DFace, Leave);
   ChangeFaceMode(mPicID, DFace);
-  s.Yield();
+  app_.motion.Yield(s);
 }
 
 void cPlay::ChangeFaceMode(int mPicID, bool FMode) {

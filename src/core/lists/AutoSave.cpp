@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "session/AtomicFile.h"
 #include "session/Program.h"
 #include "session/SavedGameFile.h"
 #include "settings/SettingKeys.h"
@@ -54,14 +55,35 @@ std::string FreeName(const std::string& folder, const std::string& stem, const s
   }
 }
 
+namespace {
+
+// The first free name for a copy of a game: "Name-Number", then "-(1)", "-(2)", ...
+std::string AutoSavePath(const Program& app, const std::string& name, const GameNo& no, bool Won) {
+  return FreeName(app.cData.AutoSaveFolder(), name + "-" + no.Text(), Won ? app.cData.FinExt() : app.cData.IncExt(),
+                  CopySuffix);
+}
+
+bool Kept(Program& app, bool written, const std::string& error) {
+  if (!written) app.MsgBox("The game could not be kept in the AutoSave folder: " + error + ".", MsgStyle::Stop);
+  return written;
+}
+
+}  // namespace
+
 bool AutoSaveGame(Program& app, bool Won, bool always) {
   if (!always && app.cRegistry.Get(Won ? setting::EnableFin : setting::EnableInc) != 1) return true;
-  const std::string stem = app.cGamePlay.GameName() + "-" + app.cGamePlay.GameNo().Text();
-  const std::string ext = Won ? app.cData.FinExt() : app.cData.IncExt();
+  const auto& gp = app.cGamePlay;
   std::string error;
-  if (app.cEngine.SavetoFile(FreeName(app.cData.AutoSaveFolder(), stem, ext, CopySuffix), &error)) return true;
-  app.MsgBox("The game could not be kept in the AutoSave folder: " + error + ".", MsgStyle::Stop);
-  return false;
+  return Kept(app, app.cEngine.SavetoFile(AutoSavePath(app, gp.GameName(), gp.GameNo(), Won), &error), error);
+}
+
+bool AutoSaveFile(Program& app, const std::string& path) {
+  const std::optional<std::string> bytes = ReadWholeFile(path);
+  const std::optional<GameHeader> header = ReadGameHeader(path);
+  std::string error = "the file \"" + path + "\" does not read";
+  if (!bytes || !header) return Kept(app, false, error);
+  const std::string copy = AutoSavePath(app, header->GameName, header->GameNo, false);
+  return Kept(app, app.cFileSys.WriteText(copy, *bytes, &error), error);
 }
 
 std::vector<std::string> GetAutoSaveFiles(const Program& app, bool Won) { return Paths(ListAutoSaves(app, Won)); }

@@ -14,6 +14,10 @@ class Program;
 // Writes nothing when the Options turned that kind off, unless `always` (a game that must
 // not be lost). False, with a message shown, when the copy could not be written.
 bool AutoSaveGame(Program& app, bool Won, bool always = false);
+// Keeps a saved game that is not on the table (the one a crashed run left) as an
+// incomplete copy, under the name its header gives. False, with a message shown, when the
+// file does not read or the copy could not be written.
+bool AutoSaveFile(Program& app, const std::string& path);
 // The copies of a kind whose header reads, full paths in the folder's order.
 std::vector<std::string> GetAutoSaveFiles(const Program& app, bool Won);
 // Asks first; deletes every copy of a kind. True when it did.

@@ -46,17 +46,26 @@ bool SavePendingFile(Program& app, const std::string& PendFile) {
   return saved;
 }
 
-std::vector<ListedGame> ListPending(const Program& app) { return ListGames(app.cData.PendingFolder(), {}); }
+std::vector<ListedGame> ListPending(const Program& app) {
+  std::vector<ListedGame> games = ListGames(app.cData.PendingFolder(), {});
+  // The file of the pending game on the table is its live copy, not a game that waits.
+  const auto& gp = app.cGamePlay;
+  if (gp.Game_Status() == 1 && gp.IsPending()) std::erase_if(games, [&](const auto& g) { return g.path == gp.PendFile(); });
+  return games;
+}
+
 std::vector<std::string> GetPendingFiles(const Program& app) { return Paths(ListPending(app)); }
 
 std::vector<PendingEntry> PendingMenuEntries(const Program& app) {
   std::vector<PendingEntry> entries;
   const auto& gp = app.cGamePlay;
-  if (gp.IsPending() && gp.Game_Status() == 1)
-    entries.push_back({Stem(gp.PendFile()) + " (" + std::to_string(gp.Percentage()) + "% Completed) - (Now Playing)",
-                       gp.PendFile(), true});
-  for (const auto& [path, header] : ListPending(app))
-    entries.push_back({Stem(path) + " (" + std::to_string(header.Percentage) + "% Completed)", path});
+  for (const auto& [path, header] : ListGames(app.cData.PendingFolder(), {})) {
+    const bool onTable = path == gp.PendFile();
+    // Its entry says so while the game is taken up, and goes at the rebuild after that.
+    if (onTable && gp.Game_Status() == 1) continue;
+    std::string caption = Stem(path) + " (" + std::to_string(header.Percentage) + "% Completed)";
+    entries.push_back({onTable ? caption + " - (Now Playing)" : caption, path, onTable});
+  }
   return entries;
 }
 

@@ -18,12 +18,13 @@ void MoveToPending(Program& app);
 // the file could not be written; the game then stays where it is.
 bool SavePendingFile(Program& app, const std::string& PendFile);
 // Every file of the pending folder whose header reads, whatever its extension.
+// The pending file of the game on the table is left out of both.
 std::vector<std::string> GetPendingFiles(const Program& app);
 std::vector<ListedGame> ListPending(const Program& app);
 
-// One entry of the pending menu: "<file name less extension> (<n>% Completed)".
-// The game being played from the list has no file meanwhile; its entry says so and is
-// disabled.
+// One entry of the pending menu: "<file name less extension> (<n>% Completed)". While a
+// game is taken up from the list its entry says " - (Now Playing)" and is disabled; once
+// it runs, its file is its live copy and the menu leaves it out.
 struct PendingEntry {
   std::string caption;
   std::string path;

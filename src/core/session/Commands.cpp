@@ -13,6 +13,12 @@ namespace {
 
 int Speed(const Program& app, const IntSetting& s) { return app.cRegistry.Get(s); }
 
+// What may run while cards move: the stop (which waits for the move's end), the end of a
+// replay after its current step, and the help. Everything else is dropped, not queued.
+bool RunsWhileMoving(const std::string& key) {
+  return key == "Exit" || key == "Stop" || key == "Contents" || key == "Rules" || key == "About";
+}
+
 // Commands the session carries out itself; false for a key it does not know.
 bool RunSessionCommand(Program& app, const std::string& key) {
   auto& gp = app.cGamePlay;
@@ -26,8 +32,6 @@ bool RunSessionCommand(Program& app, const std::string& key) {
     if (gp.Game_Status() == 1) gp.EndGame(0, false);
     else gp.ClearArea();
     app.cSound.CloseGame();
-  } else if (key == "Exit") {
-    window.CloseMain();
   } else if (key == "Undo" || key == "Redo") {
     int speed = Speed(app, setting::UndoSpeed);
     key == "Undo" ? e.Undo(speed) : e.Redo(speed);
@@ -48,8 +52,6 @@ bool RunSessionCommand(Program& app, const std::string& key) {
     window.EnableTimer(Timer::Forward, true);
   } else if (key == "AddPend") {
     MoveToPending(app);
-  } else if (key == "Stop") {
-    // StopReplay has run already.
   } else {
     return false;
   }
@@ -59,8 +61,15 @@ bool RunSessionCommand(Program& app, const std::string& key) {
 }  // namespace
 
 void ExecCommand(Program& app, const std::string& key) {
+  if (app.motion.Moving() && !RunsWhileMoving(key)) return;
   StopReplay(app);
-  if (RunSessionCommand(app, key) || key == "Recent") return;
+  if (key == "Exit") return app.surface.window.CloseMain();
+  if (key == "Stop" || key == "Recent") return;
+  {
+    // Windows open outside the step: a stop while one is open need not wait for it.
+    Motion::Step step(app.motion);
+    if (!step || RunSessionCommand(app, key)) return;
+  }
   // The rules view of a running game comes with the created games; until then Rules
   // opens the help, as it does with no game on the table.
   if (key == "Rules") return app.surface.window.OpenWindow("Contents");
@@ -74,6 +83,7 @@ bool IsReplaying(const Program& app) {
 }
 
 bool CommandEnabled(const Program& app, const std::string& key) {
+  if (app.motion.Moving() && !RunsWhileMoving(key)) return false;
   const int status = app.cGamePlay.Game_Status();
   const bool R = status == 1, T = status > 0, Q = !IsReplaying(app);
   const auto& e = app.cEngine;
@@ -97,6 +107,10 @@ void StopReplay(Program& app) {
 }
 
 void ReplayTick(Program& app, bool forward) {
+  // A tick that comes while the last step still moves, or while a card hangs on the
+  // pointer, waits for the next one.
+  Motion::Step step(app.motion);
+  if (!step || app.drag.Dragging) return;
   auto& window = app.surface.window;
   window.EnableTimer(forward ? Timer::Backward : Timer::Forward, false);
   window.SetStopEnabled(true);

@@ -1,5 +1,6 @@
 #include "session/FirstGame.h"
 
+#include "lists/AutoSave.h"
 #include "session/Program.h"
 #include "settings/SettingKeys.h"
 
@@ -19,9 +20,19 @@ void ResumeUnfinished(Program& app) {
   app.cGamePlay.PlayRandom();
 }
 
+// The user chose another game over the unfinished one: like any game given up, it is kept
+// as an auto-saved copy when the Options say so, and is not offered again.
+void GiveUpUnfinished(Program& app) {
+  if (app.cRegistry.Get(setting::EnableInc) == 1) AutoSaveFile(app, app.cData.UnFinFile());
+  app.cRegistry.Set(setting::UnFin, 0);
+}
+
 }  // namespace
 
 void FirstGame(Program& app, const std::string& path) {
+  // One change from the question to the dealt table: a stop meanwhile waits for its end.
+  Motion::Step step(app.motion);
+  if (!step) return;
   const bool unfinished = app.cRegistry.Get(setting::UnFin) == 1;
   if (path.empty()) {
     // The selection dialog comes with the game lists; until then a new deal of the last game.
@@ -34,7 +45,7 @@ void FirstGame(Program& app, const std::string& path) {
     return;
   }
   if (app.MsgBox(kQuestion, MsgStyle::YesNoQuestion) == Answer::Yes && app.cGamePlay.PlayFile(path, true)) {
-    app.cRegistry.Set(setting::UnFin, 0);
+    GiveUpUnfinished(app);
     return;
   }
   ResumeUnfinished(app);

@@ -16,6 +16,7 @@ Program::Program(Surface s, ISettingsStore& st, PlatformFolders f)
       cGamePlay(*this),
       cCustom(*this),
       cPlay(*this),
+      keeper(*this),
       rng(static_cast<uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count())) {
   FillProductData(cData);
   cRegistry.onFirstRefusal = [this] {

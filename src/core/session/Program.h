@@ -12,6 +12,8 @@
 #include "session/cData.h"
 #include "session/cEngine.h"
 #include "session/cFileSys.h"
+#include "session/GameKeeper.h"
+#include "session/Motion.h"
 #include "session/cGamePlay.h"
 #include "settings/ISettingsStore.h"
 #include "settings/cRegistry.h"
@@ -62,6 +64,8 @@ class Program {
   qv::cPlay cPlay;
 
   DragState drag;
+  qv::Motion motion;
+  qv::GameKeeper keeper;
   int ScreenWidth = 19200;  // the width the table is centred in, twips
   std::mt19937_64 rng;      // seeded from the clock, as new game numbers are
 };

@@ -12,6 +12,7 @@ constexpr int kBlock = 100;
 cEngine::cEngine(Program& app) : app_(app) { ClearTRANS(); }
 
 void cEngine::ClearTRANS() {
+  ++revision_;
   TransID = 0;
   TransTop = 0;
   TransMax = kBlock;
@@ -26,6 +27,7 @@ void cEngine::Grow() {
 
 void cEngine::SaveTrans(int PicID, int DCell, int DPile, int DPos, int mCards, int tMod) {
   if (TransID >= kMaxRecords) return;  // callers check HasRoomFor before a step begins
+  ++revision_;
   ++TransID;
   TransTop = TransID;
   if (TransID > TransMax) Grow();
@@ -53,6 +55,7 @@ bool cEngine::Undo(int& Speed) {
     if (r.Multi == 1) Speed = 2;
     if (Speed > 3) app_.cSound.Undo();
     if (r.tMod == 3) app_.cPlay.ChangeFaceMode(app_.cPlay.GetPicID(r.SCell, r.SPile, r.SPos - 1), false);
+    ++revision_;
     app_.cPlay.MoveCard(r.PicID, r.SCell, r.SPile, r.SPos, 4, Speed, r.mCards, true);
     if (r.tMod == 1) app_.cPlay.ChangeFaceMode(r.PicID, false);
     if (r.tMod == 2) app_.cPlay.ChangeFaceMode(r.PicID, true);
@@ -66,6 +69,7 @@ bool cEngine::Redo(int& Speed) {
   while (TransID != TransTop) {
     if (TRANS[TransID].Multi == 1) Speed = 2;
     ++TransID;
+    ++revision_;
     if (Speed > 3) app_.cSound.Redo();
     const TransRec r = TRANS[TransID];
     app_.cPlay.MoveCard(r.PicID, r.DCell, r.DPile, r.DPos, 4, Speed, r.mCards, true);

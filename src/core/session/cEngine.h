@@ -57,6 +57,8 @@ class cEngine {
   int16_t mCards(int id) const { return TRANS[id].mCards; }
   int16_t Multi(int id) const { return TRANS[id].Multi; }
   int GetTransMax() const { return TransMax; }
+  // Counts every change of the journal, so a copy of the game can tell that it is behind.
+  int Revision() const { return revision_; }
 
  private:
   void Grow();
@@ -67,6 +69,7 @@ class cEngine {
   std::vector<TransRec> TRANS;  // record 0 is an empty guard
   int TransMax = 0;
   int16_t MultiOn = 0;
+  int revision_ = 0;
 };
 
 }  // namespace qv

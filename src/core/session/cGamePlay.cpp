@@ -11,6 +11,7 @@
 #include "session/Program.h"
 #include "session/SavedGameCheck.h"
 #include "session/SavedGameFile.h"
+#include "settings/SettingKeys.h"
 
 namespace qv {
 
@@ -25,18 +26,17 @@ bool cGamePlay::Dealable(const std::string& name) const {
 
 bool cGamePlay::StartGame(const std::string& cGameName, const qv::GameNo& cGameNo, int cLoadType, int32_t cTime,
                           int16_t cScore, int16_t cRedealsComp) {
+  Motion::Step step(app_.motion);
+  if (!step) return false;
   if (!Dealable(cGameName)) {
     app_.MsgBox("The game \"" + cGameName + "\" is not in the list of games, so it cannot be dealt.", MsgStyle::Stop);
     return false;
   }
   if (status_ == 1 && !EndGame(0, false)) return false;
   if (status_ == 2) ClearArea();
-  starting_ = true;
-  struct Started {
-    bool& flag;
-    ~Started() { flag = false; }
-  } started{starting_};
+  // A game that ended while paused leaves no pressed Pause button behind.
   pauseStatus_ = false;
+  app_.surface.window.ShowPaused(false);
   loadingType_ = cLoadType;
   // The background picker joins with the backgrounds; WPTimerValue 4 asks for it here.
   gameName_ = cGameName;
@@ -93,6 +93,8 @@ std::optional<SavedGame> cGamePlay::ReadPlayable(const std::string& fName) {
 }
 
 bool cGamePlay::PlayFile(const std::string& fName, bool bRecent) {
+  Motion::Step step(app_.motion);
+  if (!step) return false;
   auto game = ReadPlayable(fName);
   if (!game) return false;
   if (status_ == 1 && !EndGame(0, false)) return false;
@@ -105,6 +107,8 @@ bool cGamePlay::PlayFile(const std::string& fName, bool bRecent) {
 }
 
 bool cGamePlay::PlayPendFile(const std::string& fName) {
+  Motion::Step step(app_.motion);
+  if (!step) return false;
   auto game = ReadPlayable(fName);
   if (!game) return false;
   if (status_ == 1 && !EndGame(0, false)) return false;
@@ -112,12 +116,12 @@ bool cGamePlay::PlayPendFile(const std::string& fName) {
   pendFile_ = fName;
   app_.cEngine.LoadRecords(game->records);
   app_.cCustom.LoadGameFile(game->header);
-  // From here the game lives in memory until it ends or is won; a failed delete is ignored.
-  app_.cFileSys.Delete(fName);
-  const bool started = StartGame(game->header.GameName, game->header.GameNo, kPendingGame, game->header.Time,
-                                 game->header.Score, 0);
+  // The menu shows the entry as now playing until its next rebuild.
   app_.surface.window.RefreshMenus();
-  return started;
+  // The file stays where it is while its game is on the table, kept current by the keeper,
+  // so no stop and no crash can lose it; the lists pass it over meanwhile.
+  return StartGame(game->header.GameName, game->header.GameNo, kPendingGame, game->header.Time, game->header.Score,
+                   0);
 }
 
 bool cGamePlay::EndGame(int Win, bool bTerminate) {
@@ -133,6 +137,7 @@ bool cGamePlay::EndGame(int Win, bool bTerminate) {
 }
 
 void cGamePlay::ClearArea() {
+  app_.keeper.Forget();
   app_.surface.window.EnableTimer(Timer::Game, false);
   running_ = false;
   status_ = 0;
@@ -141,22 +146,18 @@ void cGamePlay::ClearArea() {
 }
 
 void cGamePlay::Unload() {
-  // A stop that comes while a game is still being dealt (a logout in the first seconds)
-  // leaves the last session's marks and files as they were.
-  if (starting_) return;
-  app_.cRegistry.Set(setting::UnFin, 0);
-  if (status_ != 1) return;
-  if (loadingType_ == kPendingGame) {
-    // A pending game whose file cannot be written back is kept as an auto-saved copy.
-    if (!EndGame(0, true)) AutoSaveGame(app_, false, true);
-  } else if (app_.cRegistry.Get(setting::GameSave) == 1) {
+  // Each game is given its place before the mark that points elsewhere is cleared: a stop
+  // cut short in between leaves a game in two places at worst, never in none.
+  if (status_ == 1 && loadingType_ != kPendingGame && app_.cRegistry.Get(setting::GameSave) == 1) {
     // The game counts as waiting only once its file is there whole.
     std::string error;
     if (app_.cEngine.SavetoFile(app_.cData.UnFinFile(), &error)) app_.cRegistry.Set(setting::UnFin, 1);
     else app_.MsgBox("The unfinished game could not be kept for the next start: " + error + ".", MsgStyle::Stop);
-  } else {
-    EndGame(0, true);
+    return;
   }
+  // A pending game whose file cannot be written back is kept as an auto-saved copy.
+  if (status_ == 1 && !EndGame(0, true)) AutoSaveGame(app_, false, true);
+  app_.cRegistry.Set(setting::UnFin, 0);
 }
 
 void cGamePlay::PauseGame(bool mPause) {

@@ -85,7 +85,6 @@ class cGamePlay {
   int loadingType_ = 0;
   std::string pendFile_;
   int status_ = 0;
-  bool starting_ = false;  // a game is being dealt or rebuilt: the event loop runs meanwhile
 };
 
 }  // namespace qv

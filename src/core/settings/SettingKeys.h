@@ -20,6 +20,8 @@ struct TextSetting {
 // user's (SaveInitDir, SchemeFile, ...) have their default given by their accessor.
 namespace setting {
 inline constexpr IntSetting UnFin{"General", "UnFin", 0};
+// 1 from the start-up until the orderly stop: still 1 at a start means the last run crashed.
+inline constexpr IntSetting SessionRunning{"General", "SessionRunning", 0};
 inline constexpr TextSetting SaveInitDir{"General", "SaveInitDir", ""};
 inline constexpr TextSetting LastGName{"General", "LastGName", ""};
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -19,7 +20,10 @@ class RecordingWindow : public IWindow {
   void SetStopEnabled(bool e) override { stopEnabled = e; }
   void OpenWindow(const std::string& key) override { opened.push_back(key); }
   void CloseMain() override { closed = true; }
-  void RefreshMenus() override { ++menuRefreshes; }
+  void RefreshMenus() override {
+    ++menuRefreshes;
+    if (onRefreshMenus) onRefreshMenus();
+  }
 
   std::string title;
   std::array<bool, 6> timers{true, true, false, false, false, false};
@@ -29,6 +33,7 @@ class RecordingWindow : public IWindow {
   std::vector<std::string> opened;
   bool closed = false;
   int menuRefreshes = 0;
+  std::function<void()> onRefreshMenus;  // lets a test read the menus as they are rebuilt
 };
 
 }  // namespace qv

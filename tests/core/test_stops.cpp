@@ -1,0 +1,334 @@
+// Stops and crashes at awkward moments, and events that arrive while cards move: no game
+// is lost or doubled, none given up comes back, and no change of the table starts inside another.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <set>
+
+#include "TestProgram.h"
+#include "engine/Pointer.h"
+#include "lists/AutoSave.h"
+#include "lists/Pending.h"
+#include "session/CommandTable.h"
+#include "session/Commands.h"
+#include "session/FirstGame.h"
+#include "session/SavedGameFile.h"
+#include "session/StartUp.h"
+
+namespace qv {
+namespace {
+
+// A game is told apart by its deal and how far it went.
+std::string Signature(const std::string& name, const GameNo& no, int moves) {
+  return name + " - " + no.Text() + " @" + std::to_string(moves);
+}
+std::string Signature(const GameHeader& h) { return Signature(h.GameName, h.GameNo, h.Moves); }
+std::string OnTable(const Program& app) {
+  const auto& gp = app.cGamePlay;
+  return gp.Game_Status() == 0 ? "" : Signature(gp.GameName(), gp.GameNo(), app.cEngine.GetTransID());
+}
+
+// Every place where a game waits for the user: the pending list, the unfinished game
+// (when UnFin counts it) and the auto-saved copies.
+std::multiset<std::string> GamesKept(const Program& app) {
+  std::multiset<std::string> kept;
+  for (const auto& g : ListGames(app.cData.PendingFolder(), {})) kept.insert(Signature(g.header));
+  for (const auto& g : ListAutoSaves(app, false)) kept.insert(Signature(g.header));
+  if (app.cRegistry.Get(setting::UnFin) == 1)
+    if (const auto h = ReadGameHeader(app.cData.UnFinFile())) kept.insert(Signature(*h));
+  return kept;
+}
+
+void Stop(test::TestProgram& t) {
+  ASSERT_TRUE(StopProgram(*t.app, nullptr));
+}
+
+// What lies about before each way of starting a game: a game on the table with a row
+// played, a game in the pending list, a saved game and a finished one.
+struct Before {
+  explicit Before(test::TestProgram& t) {
+    StartUp(*t.app);
+    t.Deal("Coral", 7);
+    test::DealRows(t, 1);
+    ExecCommand(*t.app, "AddPend");
+    pending = GetPendingFiles(*t.app).at(0);
+    t.Deal("Spider Two Suit", 31);
+    test::DealRows(t, 2);
+    saved = t.home.File("saved.vq0");
+    t->cEngine.SavetoFile(saved);
+    finished = t.home.File("done.vq1");
+    t->cEngine.SavetoFile(finished);
+    ExecCommand(*t.app, "Undo");  // the copy of the game given up differs from the saved file
+    t.Deal("Spider", 5);
+    test::DealRows(t, 1);
+    running = OnTable(*t.app);
+  }
+  std::string pending, saved, finished, running;
+};
+
+struct Way {
+  const char* name;
+  std::function<void(test::TestProgram&, const Before&)> start;
+  bool givesUpTheRunningGame = true;
+};
+
+const std::vector<Way>& Ways() {
+  static const std::vector<Way> ways{
+      {"number", [](auto& t, auto&) { t->cGamePlay.PlayNumber("Spider", GameNo::Number(42)); }},
+      {"random", [](auto& t, auto&) { t->cGamePlay.PlayRandom("Scarab"); }},
+      {"string", [](auto& t, auto&) { t->cGamePlay.PlayString("Plaza - 0077"); }},
+      {"file", [](auto& t, const Before& b) { t->cGamePlay.PlayFile(b.saved, true); }},
+      {"pending file", [](auto& t, const Before& b) { t->cGamePlay.PlayPendFile(b.pending); }},
+      {"restart", [](auto& t, auto&) { t->cGamePlay.Restart(); }},
+      {"finished replay",
+       [](auto& t, const Before& b) {
+         t->cGamePlay.PlayFile(b.finished, true);
+         while (t.window.TimerEnabled(Timer::Forward) && t->motion.state() != Motion::State::Stopped)
+           ReplayTick(*t.app, true);
+       }},
+      {"resumed at start-up",
+       [](auto& t, auto&) {
+         Stop(t);
+         t.Restart();
+         StartUp(*t.app);
+         FirstGame(*t.app, "");
+       },
+       false},
+  };
+  return ways;
+}
+
+// Starts a game one way and stops the program at its yield number `stopAt` (never when
+// 0), or just after it; then starts the program again. Answers the games kept at the stop.
+std::multiset<std::string> StartStopAndStartAgain(const Way& way, long stopAt, long* yields = nullptr) {
+  test::TestProgram t;
+  const Before before(t);
+  auto kept = GamesKept(*t.app);
+  kept.insert(before.running);
+  t->rng.seed(7);
+  long seen = 0;
+  t.sprites.onYield = [&] {
+    if (++seen == stopAt) EXPECT_FALSE(StopProgram(*t.app, [&] { StopProgram(*t.app, nullptr); }));
+  };
+  way.start(t, before);
+  t.sprites.onYield = nullptr;
+  if (yields) *yields = seen;
+  if (stopAt == 0) Stop(t);
+  EXPECT_EQ(t->motion.state(), Motion::State::Stopped);
+  const auto after = GamesKept(*t.app);
+  // Every game that was there before is still somewhere, and none is in two places.
+  for (const auto& game : kept) EXPECT_EQ(after.count(game), 1u) << way.name << " at yield " << stopAt << ": " << game;
+  EXPECT_EQ(std::set<std::string>(after.begin(), after.end()).size(), after.size()) << way.name << " at " << stopAt;
+  // The next start brings back no game given up.
+  t.Restart();
+  StartUp(*t.app);
+  FirstGame(*t.app, "");
+  if (way.givesUpTheRunningGame) EXPECT_NE(OnTable(*t.app), before.running) << way.name << " at " << stopAt;
+  return after;
+}
+
+TEST(Stops, AStopAtAnyYieldOfAnyStartKeepsEveryGameOnce) {
+  for (const Way& way : Ways()) {
+    long yields = 0;
+    const auto justAfter = StartStopAndStartAgain(way, 0, &yields);
+    ASSERT_GT(yields, 50) << way.name;
+    // Every third yield keeps the run short; the stop waits for the step's end at each.
+    for (long k = 1; k <= yields; k += 3)
+      ASSERT_EQ(StartStopAndStartAgain(way, k), justAfter) << way.name << " stopped at yield " << k;
+  }
+}
+
+// The keeper: a crash costs at most the last second of play.
+struct Crash : ::testing::Test {
+  void SetUp() override {
+    StartUp(*t.app);
+    t.Deal("Spider", 1234);
+    test::DealRows(t, 1);
+  }
+  void Tick(int64_t ms) {
+    t.clock.ms = ms;
+    t->keeper.Tick();
+  }
+  void CrashAndStartAgain() {
+    t.Restart();
+    StartUp(*t.app);
+    FirstGame(*t.app, "");
+  }
+  test::TestProgram t;
+};
+
+TEST_F(Crash, TheGameComesBackAtItsLastKeptStep) {
+  Tick(0);
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 1);
+  EXPECT_EQ(ReadGameHeader(t->cData.UnFinFile())->Moves, 10);
+  test::DealRows(t, 1);
+  Tick(999);  // within the second: not yet
+  EXPECT_EQ(ReadGameHeader(t->cData.UnFinFile())->Moves, 10);
+  t->drag.Dragging = true;  // nor while a card hangs on the pointer
+  Tick(1500);
+  EXPECT_EQ(ReadGameHeader(t->cData.UnFinFile())->Moves, 10);
+  t->drag.Dragging = false;
+  Tick(1500);
+  const auto table = test::Snapshot(*t.app);
+  CrashAndStartAgain();
+  EXPECT_EQ(OnTable(*t.app), "Spider - 1234 @20");
+  EXPECT_EQ(test::Snapshot(*t.app), table);
+  EXPECT_TRUE(t->cGamePlay.Game_Running());
+}
+
+TEST_F(Crash, NothingIsWrittenWhileCardsMove) {
+  Tick(0);
+  long written = -1;
+  t.sprites.onYield = [&] {
+    Tick(5000);
+    written = ReadGameHeader(t->cData.UnFinFile())->Moves;
+  };
+  test::DealRows(t, 1);
+  t.sprites.onYield = nullptr;
+  EXPECT_EQ(written, 10);
+  Tick(5000);
+  EXPECT_EQ(ReadGameHeader(t->cData.UnFinFile())->Moves, 20);
+}
+
+TEST_F(Crash, WithoutKeepingGamesTheGameBecomesAnAutoSavedCopy) {
+  t.settings.WriteInt("Options", "GameSave", 0);
+  t.settings.WriteInt("Options", "EnableInc", 0);  // a crash is no choice of the user's
+  Tick(0);
+  CrashAndStartAgain();
+  const auto copies = ListAutoSaves(*t.app, false);
+  ASSERT_EQ(copies.size(), 1u);
+  EXPECT_EQ(Signature(copies[0].header), "Spider - 1234 @10");
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
+  EXPECT_NE(OnTable(*t.app), "Spider - 1234 @10");
+}
+
+TEST_F(Crash, AGameEndedBeforeTheCrashNeverComesBack) {
+  Tick(0);
+  ExecCommand(*t.app, "Close");
+  CrashAndStartAgain();
+  EXPECT_EQ(GamesKept(*t.app), (std::multiset<std::string>{"Spider - 1234 @10"}));  // its auto-saved copy
+  EXPECT_NE(OnTable(*t.app), "Spider - 1234 @10");
+  // Nor does one moved to the pending list: it waits there, once.
+  ExecCommand(*t.app, "AddPend");
+  const std::string pending = GetPendingFiles(*t.app).at(0);
+  Tick(0);
+  CrashAndStartAgain();
+  EXPECT_EQ(GetPendingFiles(*t.app), std::vector<std::string>{pending});
+}
+
+TEST_F(Crash, APendingGameIsKeptCurrentInItsOwnFile) {
+  ExecCommand(*t.app, "AddPend");
+  const std::string pending = GetPendingFiles(*t.app).at(0);
+  ASSERT_TRUE(t->cGamePlay.PlayPendFile(pending));
+  test::DealRows(t, 1);
+  Tick(0);
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
+  CrashAndStartAgain();
+  EXPECT_EQ(ReadGameHeader(pending)->Moves, 20);
+  EXPECT_EQ(GetPendingFiles(*t.app), std::vector<std::string>{pending});
+  EXPECT_NE(t->cGamePlay.PendFile(), pending);  // it waits in the list, not on the table
+}
+
+TEST_F(Crash, AFileChosenOverTheUnfinishedGameKeepsThatGameAsACopy) {
+  ASSERT_TRUE(t->cEngine.SavetoFile(t.home.File("other.vq0")));
+  Stop(t);
+  t.Restart();
+  StartUp(*t.app);
+  t.dialogs.answers.push_back(Answer::Yes);
+  FirstGame(*t.app, t.home.File("other.vq0"));
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
+  ASSERT_EQ(GetAutoSaveFiles(*t.app, false).size(), 1u);
+  Tick(0);  // now the file's game is the one kept
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 1);
+}
+
+// Everything the user can fire: every command key, presses on cards and the replay timers.
+void FireEverything(Program& app) {
+  for (const MenuDef& menu : MainMenus())
+    for (const MenuEntry& entry : menu.entries) {
+      const bool greyed = !CommandEnabled(app, entry.key);
+      const std::string key = entry.key;
+      EXPECT_EQ(greyed, key != "Exit" && key != "Stop" && key != "Contents" && key != "Rules" && key != "About")
+          << key;
+      ExecCommand(app, key);
+    }
+  for (int card : {0, 50, 103}) {
+    PointerPressed(app, card, 500, 30);
+    PointerMoved(app, card, 900, 900);
+    PointerReleased(app, card);
+    PointerDoubleClicked(app, card);
+  }
+  ReplayTick(app, true);
+  ReplayTick(app, false);
+}
+
+struct Journal {
+  explicit Journal(const Program& app) : id(app.cEngine.GetTransID()), top(app.cEngine.GetTransTop()) {
+    for (int i = 1; i <= top; ++i) {
+      const TransRec& r = app.cEngine.Record(i);
+      records.push_back({r.PicID, r.SCell, r.SPile, r.SPos, r.DCell, r.DPile, r.DPos, r.mCards, r.tMod, r.Multi});
+    }
+  }
+  bool operator==(const Journal&) const = default;
+  int id, top;
+  std::vector<std::vector<int>> records;
+};
+
+TEST(Motion, NothingFiredWhileCardsMoveChangesTheTable) {
+  const std::vector<std::pair<const char*, std::function<void(test::TestProgram&)>>> changes{
+      {"deal", [](auto& t) { t.Deal("Spider", 1); }},
+      {"row", [](auto& t) { test::DealRows(t, 1); }},
+      {"undo", [](auto& t) { ExecCommand(*t.app, "Undo"); }},
+  };
+  for (size_t c = 0; c < changes.size(); ++c) {
+    // The table and journal after the change alone, with everything before it.
+    auto upTo = [&](test::TestProgram& t, size_t last) {
+      for (size_t i = 0; i < last; ++i) changes[i].second(t);
+    };
+    test::TestProgram quiet;
+    upTo(quiet, c + 1);
+    const auto table = test::Snapshot(*quiet.app);
+    const Journal journal(*quiet.app);
+    for (long k = 1;; ++k) {
+      test::TestProgram t;
+      upTo(t, c);
+      long seen = 0;
+      t.sprites.onYield = [&] {
+        if (++seen == k) FireEverything(*t.app);
+      };
+      changes[c].second(t);
+      t.sprites.onYield = nullptr;
+      if (seen < k) break;
+      ASSERT_EQ(test::Snapshot(*t.app), table) << changes[c].first << " at yield " << k;
+      ASSERT_TRUE(Journal(*t.app) == journal) << changes[c].first << " at yield " << k;
+      EXPECT_TRUE(t.window.closed);  // Exit asked the window to close, which waits for the change
+      EXPECT_EQ(t->motion.state(), Motion::State::Still);
+    }
+  }
+}
+
+TEST(Motion, AStopAskedForWhileCardsMoveWaitsForTheStepsEnd) {
+  test::TestProgram t;
+  StartUp(*t.app);
+  t.Deal("Spider", 3);
+  int stops = 0;
+  bool stopped = false;
+  t.sprites.onYield = [&] {
+    if (stops++ == 0) EXPECT_FALSE(StopProgram(*t.app, [&] { stopped = StopProgram(*t.app, nullptr); }));
+    EXPECT_EQ(t->motion.state(), Motion::State::StopWaiting);
+  };
+  ClickCard(*t.app, t->cPlay.GetTopPicID(1, 0));
+  EXPECT_TRUE(stopped);
+  EXPECT_EQ(ReadGameHeader(t->cData.UnFinFile())->Moves, 10);  // the whole row
+  EXPECT_EQ(t->cRegistry.Get(setting::SessionRunning), 0);
+  // After the stop nothing changes the table any more.
+  const auto table = test::Snapshot(*t.app);
+  ExecCommand(*t.app, "New");
+  ClickCard(*t.app, t->cPlay.GetTopPicID(1, 0));
+  EXPECT_EQ(test::Snapshot(*t.app), table);
+}
+
+}  // namespace
+}  // namespace qv
