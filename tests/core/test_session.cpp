@@ -58,6 +58,10 @@ TEST(SessionScore, PercentageAndCardsLeft) {
   t.Deal("Spider", 9);
   EXPECT_EQ(t->cGamePlay.Percentage(), 0);
   EXPECT_EQ(t->cGamePlay.CardsLeft(), 104);
+  test::PlayWithRules(t, kAnyCard);
+  ASSERT_TRUE(test::CompleteASet(t));
+  EXPECT_EQ(t->cGamePlay.Percentage(), 12);  // 12.5 goes to the even 12
+  EXPECT_EQ(t->cGamePlay.CardsLeft(), 91);
 }
 
 TEST(SessionTitle, WorkedTitleWithEveryReadout) {
@@ -113,6 +117,7 @@ TEST(SessionStart, ANewDealRunsTheClockAndRemembersTheGame) {
   gp.Restart();
   EXPECT_EQ(gp.Time(), 0);
   EXPECT_FALSE(gp.PauseStatus());
+  EXPECT_FALSE(t.window.pausedShown);  // the button and the check mark follow
   EXPECT_EQ(t->cEngine.GetTransTop(), 0);
 }
 
