@@ -81,7 +81,7 @@ class Cli : public ::testing::Test {
   Outcome Tool(const std::string& args, const std::string& input = "") {
     const std::string h = home.Path().string(), io = scratch.File("io");
     WriteFile(io + ".in", input);
-    const int w = std::system(("env -i HOME=" + Quoted(h) + " XDG_CONFIG_HOME=" + Quoted(h + "/config") +
+    const int w = std::system(("cd " + Quoted(scratch.Path().string()) + " && env -i HOME=" + Quoted(h) + " XDG_CONFIG_HOME=" + Quoted(h + "/config") +
                                " XDG_DATA_HOME=" + Quoted(h + "/data") + " PATH=/usr/bin:/bin " +
                                Quoted(QUORVALE_CLI) + " " + args + " <" + Quoted(io + ".in") + " >" +
                                Quoted(io + ".out") + " 2>" + Quoted(io + ".err"))
@@ -224,6 +224,25 @@ TEST_F(Cli, BadFilesAreFileErrorsThatChangeNothing) {
   }
   const Outcome noScript = Tool("run " + Quoted(scratch.File("no-such-script")));
   EXPECT_TRUE(noScript.status == 1 && noScript.OneErrorLine()) << noScript.err;
+}
+
+// What a session leaves is listed, a file that does not read is not, and `save` and `open`
+// go to the recent lists as at the window.
+TEST_F(Cli, ListsShowWhatReads) {
+  const std::string good = scratch.File("good.vq0"), bad = scratch.File("bad.vq0");
+  ASSERT_EQ(Run("new Spider 5\nsave \"" + bad + "\"\nsave good.vq0\nclose\nopen good.vq0\n").status, 0);
+  WriteFile(bad, "not a game");
+  const fs::path autosave = home.Path() / "Documents/My Games/Quorvale 6.0/AutoSave Files";
+  const fs::path pending = home.Path() / "data/Velmarin Works/Quorvale 6.0/Pending List";
+  fs::create_directories(pending);
+  fs::copy_file(good, pending / "Spider-5.vq0");
+  for (const fs::path& folder : {autosave, pending}) fs::copy_file(bad, folder / "bad.vq0");
+  const auto list = [](const fs::path& file) { return "[\"" + file.string() + "\"]"; };
+  EXPECT_EQ(Tool("autosave-list").out, "{\"incomplete\":" + list(autosave / "Spider-5.vq0") + ",\"finished\":[]}\n");
+  EXPECT_EQ(Tool("pending-list").out, list(pending / "Spider-5.vq0") + "\n");
+  EXPECT_EQ(Tool("recent 0").out, "[\"Spider - 5\"]\n");
+  EXPECT_EQ(Tool("recent 1").out, list(good) + "\n");
+  EXPECT_EQ(Tool("recent 2").out, list(good) + "\n");
 }
 
 }  // namespace
