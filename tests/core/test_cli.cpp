@@ -226,9 +226,12 @@ TEST_F(Cli, BadFilesAreFileErrorsThatChangeNothing) {
   EXPECT_TRUE(noScript.status == 1 && noScript.OneErrorLine()) << noScript.err;
 }
 
-// What a session leaves is listed, a file that does not read is not, and `save` and `open`
-// go to the recent lists as at the window.
-TEST_F(Cli, ListsShowWhatReads) {
+// The lists only look, so an empty home stays empty. What a session leaves is listed, a file
+// that does not read is not, and `save` and `open` go to the recent lists as at the window.
+TEST_F(Cli, ListsShowWhatReadsAndLookingWritesNothing) {
+  for (const std::string list : {"autosave-list", "pending-list", "recent 0", "recent 1", "recent 2"})
+    EXPECT_EQ(Tool(list).status, 0) << list;
+  EXPECT_TRUE(fs::is_empty(home.Path()));
   const std::string good = scratch.File("good.vq0"), bad = scratch.File("bad.vq0");
   ASSERT_EQ(Run("new Spider 5\nsave \"" + bad + "\"\nsave good.vq0\nclose\nopen good.vq0\n").status, 0);
   WriteFile(bad, "not a game");

@@ -46,7 +46,9 @@ bool SavePendingFile(Program& app, const std::string& PendFile) {
   return saved;
 }
 
-std::vector<ListedGame> ListPending(const Program& app) { return ListGames(app.cData.PendingFolder(), {}); }
+std::vector<ListedGame> ListPending(const Program& app) {
+  return ListGames(app.cData.PendingFolder(FolderUse::Read), {});
+}
 std::vector<std::string> GetPendingFiles(const Program& app) { return Paths(ListPending(app)); }
 
 std::vector<PendingEntry> PendingMenuEntries(const Program& app) {
