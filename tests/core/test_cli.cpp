@@ -106,16 +106,12 @@ TEST_F(Cli, DealPrintsTheOpeningTableOfSpiderOneAndWritesNothing) {
   EXPECT_EQ(t["game"].text, R"("Spider")");
   EXPECT_EQ(t["number"].text, R"("1")");  // a string: game numbers outgrow every integer type
   EXPECT_EQ(t["tableau"][0][4].keys, (std::vector<std::string>{"pic", "id", "num", "suit", "suitpile", "up"}));
-  std::vector<std::string> ids;
-  for (const Json& card : t["tableau"][0].items) ids.push_back(card["id"].text);
+  // Pile 0 of game 1 as worked out, its top card alone open.
+  std::vector<std::string> ids, up;
+  for (const Json& card : t["tableau"][0].items) ids.push_back(card["id"].text), up.push_back(card["up"].text);
   EXPECT_EQ(ids, (std::vector<std::string>{"97", "22", "92", "9", "100"}));
-  ASSERT_EQ(t["tableau"].size(), 10u);
-  for (size_t p = 0; p < 10; ++p) {
-    const Json& pile = t["tableau"][p];
-    ASSERT_EQ(pile.size(), p < 4 ? 5u : 4u) << "pile " << p;
-    for (size_t q = 0; q < pile.size(); ++q)
-      EXPECT_EQ(pile[q]["up"].text, q + 1 == pile.size() ? "true" : "false") << p << "/" << q;
-  }
+  EXPECT_EQ(up, (std::vector<std::string>{"false", "false", "false", "false", "true"}));
+  EXPECT_EQ(t["tableau"].size(), 10u);
   ASSERT_EQ(t["stock"].size(), 60u);
   EXPECT_EQ(t["stock"][59]["pic"].text, "59");
   EXPECT_TRUE(r.out.ends_with(R"(,"foundations":[[],[],[],[],[],[],[],[]]})" "\n"));
