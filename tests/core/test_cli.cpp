@@ -194,7 +194,7 @@ TEST_F(Cli, UsageErrorsAreStatusTwoWithOneLineNamingTheScriptLine) {
   EXPECT_EQ(help.status, 0);
   for (const std::string c : {"deal", "replay", "run", "new", "number", "drag", "dragxy", "stock", "dblclick", "undo",
                               "redo", "undoall", "redoall", "moveto", "tick", "pause", "restart", "close", "save",
-                              "open", "show", "title", "exit"})
+                              "open", "show", "title", "exit", "autosave-list", "pending-list", "recent"})
     EXPECT_TRUE(std::regex_search(help.out, std::regex("\\b" + c + "\\b"))) << c;
 }
 
