@@ -1,13 +1,15 @@
 #include "Script.h"
 
 #include <charconv>
-#include <map>
+#include <filesystem>
 #include <istream>
+#include <map>
 #include <ostream>
 
 #include "CliSurface.h"
 #include "StateJson.h"
 #include "engine/Pointer.h"
+#include "lists/Recent.h"
 #include "session/Commands.h"
 #include "session/Program.h"
 #include "session/StartUp.h"
@@ -140,14 +142,20 @@ CommandError ScriptRunner::WithNumber(const std::vector<std::string>& w) {
 
 CommandError ScriptRunner::WithPath(const std::vector<std::string>& w) {
   if (w.size() != 2) return Usage(w[0] + " takes a path");
+  // The recent lists hold full paths, as the window's file dialogs give them, so that an
+  // entry still opens from another folder.
+  std::error_code ec;
+  const std::string path = std::filesystem::absolute(w[1], ec).string();
   if (w[0] == "open") {
-    if (!app_.cGamePlay.PlayFile(w[1], true)) return FromDialogs(kFileError, "the saved game cannot be played");
+    if (!app_.cGamePlay.PlayFile(path, true)) return FromDialogs(kFileError, "the saved game cannot be played");
     ReplayToEnd(app_);
     return {};
   }
+  if (!CommandEnabled(app_, "Save")) return {};
   std::string error;
-  if (CommandEnabled(app_, "Save") && !app_.cEngine.SavetoFile(w[1], &error))
+  if (!app_.cEngine.SavetoFile(path, &error))
     return {kFileError, "the game could not be saved to \"" + w[1] + "\": " + error};
+  AddRecent(app_, kRecentSaved, path);
   return {};
 }
 

@@ -9,6 +9,7 @@
 #include "StateJson.h"
 #include "lists/AutoSave.h"
 #include "lists/Pending.h"
+#include "lists/Recent.h"
 #include "session/Program.h"
 #include "session/StartUp.h"
 #include "settings/IniSettingsStore.h"
@@ -29,7 +30,9 @@ Commands:
   autosave-list      The auto-saved games as JSON: {"incomplete": [...], "finished": [...]},
                      full paths in the folder's order, files that read only.
   pending-list       The pending games as a JSON array of full paths, as the menu lists them.
-  recent N           A recent list as a JSON array, slot order: 0 played, 1 saved, 2 opened.
+  recent N           A recent list as the File menu shows it, a JSON array in slot order:
+                     0 played, 1 saved, 2 opened. A saved game that no longer reads, or
+                     a game no longer in the game list, is left out.
   --help             Show this text.
 
 deal, replay and the lists only look: they write no setting and no file.
@@ -108,10 +111,7 @@ int List(const std::vector<std::string>& args) {
     std::cout << JsonArray(qv::GetPendingFiles(app)) << "\n";
   } else {
     if (args[1] != "0" && args[1] != "1" && args[1] != "2") return Fail(qv::kUsageError, "recent takes 0, 1 or 2");
-    auto slots = app.cFunc.GetMRU(std::stoi(args[1]));
-    slots.erase(slots.begin());
-    std::erase(slots, std::string());
-    std::cout << JsonArray(slots) << "\n";
+    std::cout << JsonArray(qv::RecentMenuEntries(app, std::stoi(args[1]))) << "\n";
   }
   return qv::kOk;
 }

@@ -38,49 +38,28 @@ TEST(Journal, ADealtRowIsOneStepOfTenRecords) {
   EXPECT_FALSE(e.Undo(speed));
 }
 
-TEST(Journal, UndoOfAnUncoveringMoveTurnsTheCardDownAgain) {
-  test::TestProgram t;
-  test::PlayWithRules(t, kAnyCard);
-  const int moved = t->cPlay.GetTopPicID(0, 0), under = t->cPlay.GetPicID(0, 0, 3);
-  Shuttle(t, 0, 1);
-  ASSERT_EQ(t->cEngine.GetTransID(), 1);
-  EXPECT_EQ(t->cEngine.Record(1).tMod, 3);
-  EXPECT_TRUE(t->cPlay.FaceMode(under));
-  int speed = 0;
-  t->cEngine.Undo(speed);
-  EXPECT_FALSE(t->cPlay.FaceMode(under));
-  EXPECT_EQ(t->cPlay.GetTopPicID(0, 0), moved);
-  // The card came back onto a closed card: four closed, then the open one.
-  EXPECT_EQ(t.sprites.Get(Sprites::PicCD, moved).top, t->cGames.GetCordY(0, 0, 4));
-  t->cEngine.Redo(speed);
-  EXPECT_TRUE(t->cPlay.FaceMode(under));
-}
-
-TEST(Journal, ANewMoveDropsWhatWasUndone) {
-  test::TestProgram t;
-  test::PlayWithRules(t, kAnyCard);
-  for (int i = 0; i < 5; ++i) Shuttle(t, i, i + 1);
-  auto& e = t->cEngine;
-  int speed = 0;
-  for (int i = 0; i < 3; ++i) e.Undo(speed);
-  EXPECT_EQ(e.GetTransID(), 2);
-  EXPECT_TRUE(e.RedoPossible());
-  Shuttle(t, 7, 8);
-  EXPECT_EQ(e.GetTransID(), 3);
-  EXPECT_EQ(e.GetTransTop(), 3);
-  EXPECT_FALSE(e.RedoPossible());
-}
-
 TEST(Journal, UndoAllRedoAllAndMoveTo) {
   test::TestProgram t;
   test::PlayWithRules(t, kAnyCard);
   const auto dealt = test::Snapshot(*t.app);
+  auto& e = t->cEngine;
+  int speed = 0;
+  // A move that uncovers a card records tMod 3; its undo turns the card down again, and the
+  // moved card comes back onto a closed card: four closed, then the open one.
+  const int moved = t->cPlay.GetTopPicID(0, 0), under = t->cPlay.GetPicID(0, 0, 3);
   Shuttle(t, 0, 1);
+  EXPECT_EQ(e.Record(1).tMod, 3);
+  EXPECT_TRUE(t->cPlay.FaceMode(under));
+  e.Undo(speed);
+  EXPECT_FALSE(t->cPlay.FaceMode(under));
+  EXPECT_EQ(t->cPlay.GetTopPicID(0, 0), moved);
+  EXPECT_EQ(t.sprites.Get(Sprites::PicCD, moved).top, t->cGames.GetCordY(0, 0, 4));
+  e.Redo(speed);
+  EXPECT_TRUE(t->cPlay.FaceMode(under));
+
   test::DealRows(t, 1);  // records 2 to 11, one step
   Shuttle(t, 2, 3);
   const auto end = test::Snapshot(*t.app);
-  auto& e = t->cEngine;
-
   e.MoveTo(e.GetTransID());
   EXPECT_EQ(test::Snapshot(*t.app), end);
   // A place inside the row: walking by whole steps, back lands at the row's start and
@@ -93,7 +72,6 @@ TEST(Journal, UndoAllRedoAllAndMoveTo) {
   e.MoveTo(99);
   EXPECT_EQ(e.GetTransID(), 1);
 
-  int speed = 0;
   e.UndoAll(speed);
   EXPECT_EQ(test::Snapshot(*t.app), dealt);
   EXPECT_TRUE(e.MoveStarted());
@@ -106,16 +84,26 @@ TEST(Journal, UndoAllRedoAllAndMoveTo) {
   EXPECT_EQ(test::Snapshot(*t.app), end);
 }
 
-TEST(Journal, GrowsInBlocksOfAHundred) {
+// The 101st record grows the journal by a hundred and keeps the first; a new move after
+// three undos drops what was undone.
+TEST(Journal, GrowsInBlocksOfAHundredAndANewMoveDropsTheUndone) {
   test::TestProgram t;
   test::PlayWithRules(t, kAnyCard);
+  auto& e = t->cEngine;
   for (int i = 0; i < 100; ++i) Shuttle(t, i % 2, 1 - i % 2);
-  EXPECT_EQ(t->cEngine.GetTransMax(), 100);
-  const TransRec first = t->cEngine.Record(1);
-  Shuttle(t, 0, 1);
-  EXPECT_EQ(t->cEngine.GetTransID(), 101);
-  EXPECT_EQ(t->cEngine.GetTransMax(), 200);
-  EXPECT_EQ(t->cEngine.Record(1), first);
+  EXPECT_EQ(e.GetTransMax(), 100);
+  const TransRec first = e.Record(1);
+  int speed = 0;
+  for (int i = 0; i < 3; ++i) e.Undo(speed);
+  EXPECT_TRUE(e.RedoPossible());
+  Shuttle(t, 7, 8);
+  EXPECT_EQ(e.GetTransID(), 98);
+  EXPECT_EQ(e.GetTransTop(), 98);
+  EXPECT_FALSE(e.RedoPossible());
+  for (int i = 0; i < 3; ++i) Shuttle(t, 8, 7);
+  EXPECT_EQ(e.GetTransID(), 101);
+  EXPECT_EQ(e.GetTransMax(), 200);
+  EXPECT_EQ(e.Record(1), first);
 }
 
 TEST(Journal, NoStepCrossesTheLimitOfTheJournal) {

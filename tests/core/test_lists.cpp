@@ -88,7 +88,9 @@ TEST_F(AutoSaves, EveryGivenUpGameLeavesACopyUnderAFreeName) {
   ExecCommand(*t.app, "Restart");  // the game on the table counts as given up
   t.Deal("Spider", 1234);          // and so does one ended by a new deal
   EXPECT_EQ(Incomplete(), (std::vector<std::string>{"Spider-1234-(1).vq0", "Spider-1234-(2).vq0", "Spider-1234.vq0"}));
-  // A won copy of the same deal does not collide with them.
+  // A won copy of the same deal does not collide with them, and a folder deleted meanwhile
+  // is made again for it.
+  fs::remove_all(t->cData.AutoSaveFolder(FolderUse::Read));
   ASSERT_TRUE(AutoSaveGame(*t.app, true));
   EXPECT_EQ(Names(GetAutoSaveFiles(*t.app, true)), (std::vector<std::string>{"Spider-1234.vq1"}));
 }
@@ -170,16 +172,21 @@ TEST_F(PendingList, MovedGamesTakeFreeNamesAndComeBack) {
 
 TEST_F(PendingList, EveryReadableFileCountsAndAFailedWriteKeepsTheTable) {
   t.Deal("Coral", 3);
-  ASSERT_TRUE(t->cEngine.SavetoFile((fs::path(t->cData.PendingFolder()) / "other.save").string()));
-  test::WriteFile((fs::path(t->cData.PendingFolder()) / "broken.vq0").string(), "Coral\r\n");
+  const fs::path folder = t->cData.PendingFolder();
+  ASSERT_TRUE(t->cEngine.SavetoFile((folder / "other.save").string()));
+  test::WriteFile((folder / "broken.vq0").string(), "Coral\r\n");
   EXPECT_EQ(Names(GetPendingFiles(*t.app)), (std::vector<std::string>{"other.save"}));
   // A name taken by a folder is passed over.
-  fs::create_directories(fs::path(t->cData.PendingFolder()) / "Coral-3.vq0");
+  fs::create_directories(folder / "Coral-3.vq0");
   ExecCommand(*t.app, "AddPend");
-  EXPECT_TRUE(fs::exists(fs::path(t->cData.PendingFolder()) / "Coral-3-1.vq0"));
+  EXPECT_TRUE(fs::exists(folder / "Coral-3-1.vq0"));
+  // A folder deleted meanwhile is made again by the next game moved there.
+  fs::remove_all(folder);
+  t.Deal("Coral", 3);
+  ExecCommand(*t.app, "AddPend");
+  EXPECT_EQ(Names(GetPendingFiles(*t.app)), (std::vector<std::string>{"Coral-3.vq0"}));
   // A pending folder that cannot be written: the game stays on the table, with one message.
   t.Deal("Coral", 3);
-  const fs::path folder = t->cData.PendingFolder();
   fs::remove_all(folder);
   test::WriteFile(folder.string(), "a file where the folder should be");
   const auto before = t.dialogs.shown.size();

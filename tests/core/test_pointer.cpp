@@ -15,44 +15,36 @@ struct Pointer : ::testing::Test {
   test::TestProgram t;
 };
 
-TEST_F(Pointer, APressAndReleaseInPlacePutsTheCardBack) {
+// A press and release in place, a face-down card and a drop the pile refuses: the card
+// jumps back, or nothing starts at all, and nothing is journalled.
+TEST_F(Pointer, PressesThatMoveNothing) {
   t.Deal("Spider", 1);
   const int card = Top(3);
   const double left = Sprite(card).left, top = Sprite(card).top;
-  const long moves = t.sprites.Moves();
+  long moves = t.sprites.Moves();
   ClickCard(*t.app, card);
   EXPECT_EQ(Sprite(card).left, left);
   EXPECT_EQ(Sprite(card).top, top);
   EXPECT_GT(t.sprites.Moves(), moves);  // it jumped back
-  EXPECT_EQ(t->cEngine.GetTransID(), 0);
   EXPECT_FALSE(t->drag.Dragging);
-}
 
-TEST_F(Pointer, AFaceDownCardStartsNothing) {
-  t.Deal("Spider", 1);
   const int closed = t->cPlay.GetPicID(0, 0, 1);
   PointerPressed(*t.app, closed, 500, 30);
   EXPECT_FALSE(t->drag.Dragging);
-  const long moves = t.sprites.Moves();
+  moves = t.sprites.Moves();
   PointerMoved(*t.app, closed, 3000, 3000);
   PointerReleased(*t.app, closed);
   EXPECT_EQ(t.sprites.Moves(), moves);
-}
 
-TEST_F(Pointer, ARefusedDropJumpsBack) {
-  t.Deal("Spider", 1);
-  // Find a top card that pile 0's top refuses.
-  for (int p = 1; p < 10; ++p) {
-    if (TableauAccepts(t->cPlay.table(), t->cGames, 0, Top(p))) continue;
-    const int card = Top(p);
-    const double left = Sprite(card).left;
-    DragCardToPile(*t.app, card, 0);
-    EXPECT_EQ(Sprite(card).left, left);
-    EXPECT_EQ(t->cPlay.Pile(card), p);
-    EXPECT_EQ(t->cEngine.GetTransID(), 0);
-    return;
-  }
-  FAIL() << "every top card fits on pile 0";
+  int refused = 1;
+  while (refused < 10 && TableauAccepts(t->cPlay.table(), t->cGames, 0, Top(refused))) ++refused;
+  ASSERT_LT(refused, 10) << "every top card fits on pile 0";
+  const int other = Top(refused);
+  const double otherLeft = Sprite(other).left;
+  DragCardToPile(*t.app, other, 0);
+  EXPECT_EQ(Sprite(other).left, otherLeft);
+  EXPECT_EQ(t->cPlay.Pile(other), refused);
+  EXPECT_EQ(t->cEngine.GetTransID(), 0);
 }
 
 TEST_F(Pointer, AGroupMovesAsOneRecordAndLandsInOrder) {
@@ -87,13 +79,6 @@ TEST_F(Pointer, AGroupMovesAsOneRecordAndLandsInOrder) {
   EXPECT_EQ(Sprite(foot).height, 1440);
 }
 
-TEST_F(Pointer, AGroupThatBreaksTheGroupOrderCannotBePickedUp) {
-  t.Deal("Spider Plus", 1);
-  // In a dealt game only top cards are open: a card under the top is face down.
-  PointerPressed(*t.app, t->cPlay.GetPicID(0, 0, 3), 500, 30);
-  EXPECT_FALSE(t->drag.Dragging);
-}
-
 TEST_F(Pointer, ThePileUnderTheCentreWinsThenTheFirstOverlap) {
   test::PlayWithRules(t, kAnyCard);
   const int card = Top(0);
@@ -107,31 +92,35 @@ TEST_F(Pointer, ThePileUnderTheCentreWinsThenTheFirstOverlap) {
   EXPECT_EQ(t->cPlay.Pile(next), 6);
 }
 
-TEST_F(Pointer, APressEndsAPauseAndRestartsTheClock) {
+// A press ends a pause and acts; with no game running it starts nothing; on the Stock it
+// deals a row and starts no drag; clearing the table ends a drag under way.
+TEST_F(Pointer, WhatAPressDoesDependsOnTheGame) {
   t.Deal("Spider", 1);
   t->cGamePlay.PauseGame(true);
   t.window.EnableTimer(Timer::Game, false);
   ClickCard(*t.app, Top(2));
   EXPECT_FALSE(t->cGamePlay.PauseStatus());
   EXPECT_TRUE(t.window.TimerEnabled(Timer::Game));
-}
 
-TEST_F(Pointer, NothingAnswersWhileNoGameRuns) {
-  t.Deal("Spider", 1);
-  const int card = Top(0);
-  t->cGamePlay.Game_Running(false);
-  PointerPressed(*t.app, card, 500, 30);
-  EXPECT_FALSE(t->drag.Dragging);
-}
-
-TEST_F(Pointer, TheStockDealsARowAndStartsNoDrag) {
-  t.Deal("Spider", 1);
   const int stockTop = t->cPlay.GetTopPicID(1, 0);
   PointerPressed(*t.app, stockTop, 500, 30);
   EXPECT_FALSE(t->drag.Dragging);
   EXPECT_EQ(t->cPlay.GetTop(1, 0), 49);
   EXPECT_EQ(t->cPlay.Cell(stockTop), 0);
   EXPECT_TRUE(t->cPlay.FaceMode(stockTop));
+
+  PointerPressed(*t.app, Top(0), 500, 30);
+  ASSERT_TRUE(t->drag.Dragging);
+  t->cGamePlay.ClearArea();
+  EXPECT_FALSE(t->drag.Dragging);
+  EXPECT_EQ(t.sprites.Count(Sprites::PicCD), 1);
+  EXPECT_FALSE(t.sprites.Get(Sprites::PicCD, 0).visible);
+  EXPECT_EQ(t.sprites.Get(Sprites::PicCD, 0).height, 1440);
+
+  t.Deal("Spider", 1);
+  t->cGamePlay.Game_Running(false);
+  PointerPressed(*t.app, Top(0), 500, 30);
+  EXPECT_FALSE(t->drag.Dragging);
 }
 
 TEST_F(Pointer, EmptyPilesAreFoundAboveTheirMarker) {
@@ -183,17 +172,6 @@ TEST_F(Pointer, ADoubleClickSendsAnAceToTheFirstEmptyFoundation) {
     }
   }
   FAIL() << "no deal with an open Ace";
-}
-
-TEST_F(Pointer, ClearingTheTableEndsADrag) {
-  t.Deal("Spider", 1);
-  PointerPressed(*t.app, Top(0), 500, 30);
-  ASSERT_TRUE(t->drag.Dragging);
-  t->cGamePlay.ClearArea();
-  EXPECT_FALSE(t->drag.Dragging);
-  EXPECT_EQ(t.sprites.Count(Sprites::PicCD), 1);
-  EXPECT_FALSE(t.sprites.Get(Sprites::PicCD, 0).visible);
-  EXPECT_EQ(t.sprites.Get(Sprites::PicCD, 0).height, 1440);
 }
 
 }  // namespace

@@ -18,18 +18,19 @@ struct Want {
 
 // A table of a game's definition with the wanted cards on tableau piles, bottom up, and
 // every other card in the Stock.
-class Arranged {
- public:
-  Arranged(const test::Rules& r, const std::vector<std::vector<Want>>& piles) : t_(), custom_(*t_.app) {
-    custom_.Home(r.HPiles, r.HOrder, r.HSpace, r.HAK, r.HMulti, r.Suits, r.MOrder);
-    SetupGame(custom_, games);
+struct Arranged {
+  Arranged(const test::Rules& r, const std::vector<std::vector<Want>>& piles) {
+    t->cCustom.Home(r.HPiles, r.HOrder, r.HSpace, r.HAK, r.HMulti, r.Suits, r.MOrder);
+    SetupGame(t->cCustom, games);
     table.Make(games, GameNo::Number(1));
     std::vector<bool> used(104);
     for (size_t p = 0; p < piles.size(); ++p)
       for (size_t q = 0; q < piles[p].size(); ++q) {
         const Want& w = piles[p][q];
-        const int pic = Find(w, used);
-        ids.push_back(pic);
+        int pic = 0;
+        while (pic < 104 && (used[pic] || table.Card(pic).Num != w.num || table.Card(pic).Suit != w.suit)) ++pic;
+        if (pic == 104) ADD_FAILURE() << "no card " << w.num << "/" << w.suit;
+        used.at(pic) = true;
         table.UpdatePlace(pic, 0, static_cast<int>(p), static_cast<int>(q), w.up, false);
       }
     for (int pic = 0, pos = 0; pic < 104; ++pic)
@@ -38,19 +39,9 @@ class Arranged {
   int Top(int pile) const { return table.GetTopPicID(0, pile); }
   int At(int pile, int pos) const { return table.GetPicID(0, pile, pos); }
 
-  test::TestProgram t_;
-  cCustom custom_;
+  test::TestProgram t;
   cGames games;
   Table table;
-  std::vector<int> ids;
-
- private:
-  int Find(const Want& w, std::vector<bool>& used) const {
-    for (int pic = 0; pic < 104; ++pic)
-      if (!used[pic] && table.Card(pic).Num == w.num && table.Card(pic).Suit == w.suit) return used[pic] = true, pic;
-    ADD_FAILURE() << "no card " << w.num << "/" << w.suit;
-    return 0;
-  }
 };
 
 // Suits 0 and 2 are one colour, 1 and 3 the other.
@@ -91,28 +82,26 @@ TEST(Rules, NamesOfCodes) {
   EXPECT_EQ(GetBoolName(-1), "");
 }
 
-TEST(Rules, StandardGamesAndTheirGroupOrder) {
+// The seven differ only in Suits and MOrder; a stored MOrder 0 groups by the tableau's order.
+TEST(Rules, StandardGames) {
   test::TestProgram t;
-  const std::pair<const char*, int> expected[] = {{"Spider", 4}, {"Spider Single Suit", 4}, {"Spider Two Suit", 4},
-                                                 {"Scarab", 4},  {"Plaza", 1},              {"Coral", 2},
-                                                 {"Spider Plus", 3}};
-  for (auto [name, multiOrder] : expected) {
+  struct Row { const char* name; int suits, mOrder, multiOrder; };
+  for (const Row& r : {Row{"Spider", 2, 0, 4}, {"Spider Single Suit", 0, 0, 4}, {"Spider Two Suit", 1, 0, 4},
+                       {"Scarab", 2, 4, 4}, {"Plaza", 2, 1, 1}, {"Coral", 2, 2, 2}, {"Spider Plus", 2, 3, 3}}) {
     cCustom c(*t.app);
-    ASSERT_TRUE(SetStdGame(c, name));
+    ASSERT_TRUE(SetStdGame(c, r.name));
+    EXPECT_EQ((std::vector<int>{c.HPiles, c.HOrder, c.HSpace, c.HAK, c.HMulti, c.Suits, c.MOrder}),
+              (std::vector<int>{10, 4, 13, 0, 1, r.suits, r.mOrder})) << r.name;
     cGames g;
     SetupGame(c, g);
-    EXPECT_EQ(g.MultiOrder(), multiOrder) << name;
-    EXPECT_EQ(g.Order(0, 0), 4);
-    EXPECT_EQ(g.EmptyNum(), 13);
-    EXPECT_EQ(g.Piles(0), 10);
-    EXPECT_EQ(g.Piles(3), 8);
-    EXPECT_EQ(g.TotalCards(), 104);
-    EXPECT_EQ(g.BaseX(), 11550);
+    EXPECT_EQ(g.MultiOrder(), r.multiOrder) << r.name;
+    EXPECT_EQ((std::vector<int>{g.Order(0, 0), g.EmptyNum(), g.Piles(0), g.Piles(3), g.TotalCards(), g.BaseX()}),
+              (std::vector<int>{4, 13, 10, 8, 104, 11550})) << r.name;
     EXPECT_TRUE(g.MultiMove());
   }
   cCustom c(*t.app);
   SetStdGame(c, "Plaza");
-  EXPECT_FALSE(SetStdGame(c, "spider"));
+  EXPECT_FALSE(SetStdGame(c, "spider"));  // no standard game: the rules stay as they were
   EXPECT_EQ(c.GameName, "Plaza");
   EXPECT_EQ(c.MOrder, 1);
 }

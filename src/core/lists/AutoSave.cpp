@@ -43,7 +43,7 @@ std::vector<std::string> Paths(const std::vector<ListedGame>& games) {
 }
 
 std::vector<ListedGame> ListAutoSaves(const Program& app, bool Won) {
-  return ListGames(app.cData.AutoSaveFolder(), {Won ? app.cData.FinExt() : app.cData.IncExt()});
+  return ListGames(app.cData.AutoSaveFolder(FolderUse::Read), {Won ? app.cData.FinExt() : app.cData.IncExt()});
 }
 
 std::string FreeName(const std::string& folder, const std::string& stem, const std::string& ext,
@@ -95,7 +95,7 @@ bool EmptyAutoSave(Program& app, bool Won) {
 }
 
 std::vector<std::string> GetSavedFiles(const Program& app) {
-  return Paths(ListGames(app.cData.SavedFolder(), {app.cData.FinExt(), app.cData.IncExt()}));
+  return Paths(ListGames(app.cData.SavedFolder(FolderUse::Read), {app.cData.FinExt(), app.cData.IncExt()}));
 }
 
 }  // namespace qv

@@ -47,7 +47,7 @@ bool SavePendingFile(Program& app, const std::string& PendFile) {
 }
 
 std::vector<ListedGame> ListPending(const Program& app) {
-  std::vector<ListedGame> games = ListGames(app.cData.PendingFolder(), {});
+  std::vector<ListedGame> games = ListGames(app.cData.PendingFolder(FolderUse::Read), {});
   // The file of the pending game on the table is its live copy, not a game that waits.
   const auto& gp = app.cGamePlay;
   if (gp.Game_Status() == 1 && gp.IsPending()) std::erase_if(games, [&](const auto& g) { return g.path == gp.PendFile(); });
@@ -59,7 +59,7 @@ std::vector<std::string> GetPendingFiles(const Program& app) { return Paths(List
 std::vector<PendingEntry> PendingMenuEntries(const Program& app) {
   std::vector<PendingEntry> entries;
   const auto& gp = app.cGamePlay;
-  for (const auto& [path, header] : ListGames(app.cData.PendingFolder(), {})) {
+  for (const auto& [path, header] : ListGames(app.cData.PendingFolder(FolderUse::Read), {})) {
     const bool onTable = path == gp.PendFile();
     // Its entry says so while the game is taken up, and goes at the rebuild after that.
     if (onTable && gp.Game_Status() == 1) continue;

@@ -62,19 +62,25 @@ void cData::Resize(int top) {
   decks_.resize(top + 1);
 }
 
-std::string cData::SubFolder(const std::string& parent, const std::string& name) const {
+std::string cData::SubFolder(const std::string& parent, const std::string& name, FolderUse use) const {
   const auto path = std::filesystem::path(parent) / name;
-  app_.cFileSys.CreateFolder(path.string());
+  if (use == FolderUse::Write) app_.cFileSys.CreateFolder(path.string());
   return path.string();
 }
 
-std::string cData::AppDir() const {
-  return SubFolder(SubFolder(app_.folders.appData.string(), "Velmarin Works"), prodName_);
+std::string cData::AppDir(FolderUse use) const {
+  return SubFolder(SubFolder(app_.folders.appData.string(), "Velmarin Works", use), prodName_, use);
 }
 
-std::string cData::SavedFolder() const {
-  return SubFolder(SubFolder(app_.folders.documents.string(), "My Games"), prodName_);
+std::string cData::SavedFolder(FolderUse use) const {
+  return SubFolder(SubFolder(app_.folders.documents.string(), "My Games", use), prodName_, use);
 }
+
+std::string cData::FavFolder(FolderUse use) const { return SubFolder(AppDir(use), "Favorites", use); }
+std::string cData::GamesFolder(FolderUse use) const { return SubFolder(AppDir(use), "Custom Games", use); }
+std::string cData::SchemeFolder(FolderUse use) const { return SubFolder(AppDir(use), "Color Schemes", use); }
+std::string cData::PendingFolder(FolderUse use) const { return SubFolder(AppDir(use), "Pending List", use); }
+std::string cData::AutoSaveFolder(FolderUse use) const { return SubFolder(SavedFolder(use), "AutoSave Files", use); }
 
 std::string cData::ProgramFolder() const { return app_.folders.program.string(); }
 

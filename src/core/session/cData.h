@@ -18,6 +18,9 @@ struct PlatformFolders {
   static PlatformFolders FromEnvironment();
 };
 
+// Why a folder of the user's files is asked for.
+enum class FolderUse { Write, Read };
+
 // Product facts, the folders of the user's files, and the list of games.
 class cData {
  public:
@@ -34,14 +37,16 @@ class cData {
   std::string FinExt() const { return "." + ext_ + "1"; }
   const std::string& HelpFile() const { return helpFile_; }
 
-  // Each folder is made when asked for, every time, so a folder deleted meanwhile comes back.
-  std::string AppDir() const;
-  std::string FavFolder() const { return SubFolder(AppDir(), "Favorites"); }
-  std::string GamesFolder() const { return SubFolder(AppDir(), "Custom Games"); }
-  std::string SchemeFolder() const { return SubFolder(AppDir(), "Color Schemes"); }
-  std::string PendingFolder() const { return SubFolder(AppDir(), "Pending List"); }
-  std::string SavedFolder() const;
-  std::string AutoSaveFolder() const { return SubFolder(SavedFolder(), "AutoSave Files"); }
+  // A folder asked for writing is made when missing, every time, so a folder deleted
+  // meanwhile comes back. One asked for reading a list is only named: looking at the
+  // lists leaves an empty home empty, and a missing folder lists nothing.
+  std::string AppDir(FolderUse use = FolderUse::Write) const;
+  std::string FavFolder(FolderUse use = FolderUse::Write) const;
+  std::string GamesFolder(FolderUse use = FolderUse::Write) const;
+  std::string SchemeFolder(FolderUse use = FolderUse::Write) const;
+  std::string PendingFolder(FolderUse use = FolderUse::Write) const;
+  std::string SavedFolder(FolderUse use = FolderUse::Write) const;
+  std::string AutoSaveFolder(FolderUse use = FolderUse::Write) const;
   std::string ProgramFolder() const;
   std::string UnFinFile() const;
 
@@ -56,7 +61,7 @@ class cData {
   void Refresh_NewGames();
 
  private:
-  std::string SubFolder(const std::string& parent, const std::string& name) const;
+  std::string SubFolder(const std::string& parent, const std::string& name, FolderUse use) const;
   void Resize(int top);
 
   Program& app_;
