@@ -9,7 +9,9 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QTemporaryDir>
+#include <QScreen>
 #include <QTest>
+#include <QTextBrowser>
 #include <QTimer>
 #include <QToolBar>
 #include <QTreeWidget>
@@ -256,6 +258,41 @@ class DialogTest : public QObject {
     rowOf("OrgFav")->setCheckState(Qt::Unchecked);
     QVERIFY(!ToolbarItem(main, "Sep8")->isVisible());
     QVERIFY(ToolbarItem(main, "Sep7")->isVisible());
+  }
+
+  // The help's pages come from the program's resources, and its window fits the screen.
+  void helpShowsItsPagesWithinTheScreen() {
+    MemorySettingsStore store;
+    MainWindow main(store);
+    OpenProgramWindow(main, "Contents");
+    auto* help = main.findChild<QTextBrowser*>("helpContents");
+    QVERIFY(help && help->isVisible());
+    const QStringList says{"Build runs from King down to Ace", "Spider Plus", "Ctrl+Z", "My Games"};
+    const QStringList pages{"index.html", "games.html", "keys.html", "files.html"};
+    for (int i = 0; i < pages.size(); ++i) {
+      help->setSource(QUrl(pages[i]));
+      QVERIFY2(help->toPlainText().contains(says[i]), qPrintable(pages[i]));
+    }
+    QVERIFY(main.screen()->availableGeometry().contains(help->frameGeometry()));
+  }
+
+  // The window comes up within the screen, and a question at start opens over its middle.
+  void aQuestionIsCentredOnTheMainWindow() {
+    MemorySettingsStore store;
+    MainWindow main(store);
+    main.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&main));
+    QRect box;
+    QTimer::singleShot(0, [&] {
+      if (QWidget* modal = QApplication::activeModalWidget()) {
+        box = modal->frameGeometry();
+        modal->close();
+      }
+    });
+    main.app().MsgBox("Click 'Yes' to start this game or 'No' to start the previous game.", MsgStyle::YesNoQuestion);
+    QVERIFY(!box.isEmpty());
+    QVERIFY(main.screen()->availableGeometry().contains(main.frameGeometry()));
+    QVERIFY((box.center() - main.frameGeometry().center()).manhattanLength() < 20);
   }
 
   void routerOpensEachDialogModally() {

@@ -3,6 +3,7 @@
 // the folders and the settings.
 #include <QApplication>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabWidget>
@@ -112,7 +113,7 @@ class GameFilesTest : public QObject {
     QCOMPARE(asked.fileName, QString("Spider-42.vq0"));
     QCOMPARE(asked.folder, Q(SaveInitDir(*t)));
     QCOMPARE(asked.defaultSuffix, QString("vq0"));
-    QCOMPARE(asked.filters, QStringList{"Quorvale 6.0 InComplete Game (*.vq0)"});
+    QCOMPARE(asked.filters, QStringList{" InComplete Game (*.vq0)"});
     QCOMPARE(fs::directory_iterator(t.home.Path() / "saves")->path().filename().string(), std::string("taken.vq0"));
     // A write that fails (a folder in the way, a folder that is not there) says why, once.
     SaveGame(*t, nullptr, Choosing(Q(t.home.File("saves/taken.vq0")), &asked));
@@ -160,8 +161,8 @@ class GameFilesTest : public QObject {
 
   void autoSaveListsPlaysAndDeletesCopies() {
     test::TestProgram t;
-    for (uint64_t n : {5, 6}) {
-      t.Deal("Spider", n);
+    for (uint64_t n : {971452233114455ull, 6ull}) {
+      t.Deal(n == 6 ? "Spider" : "Spider Single Suit", n);
       t->cGamePlay.Time(125);
       ExecCommand(*t, "Close");
     }
@@ -193,6 +194,9 @@ class GameFilesTest : public QObject {
     QVERIFY(play->isEnabled() && del->isEnabled());
     tabs->setCurrentIndex(0);
     QVERIFY(!play->isEnabled() && !del->isEnabled());
+    // The columns fit their texts: a long name is not cut.
+    for (int c = 0; c < inc->columnCount(); ++c)
+      QVERIFY(inc->header()->sectionSize(c) >= static_cast<QAbstractItemView*>(inc)->sizeHintForColumn(c));
 
     Click(inc, 0);
     del->click();  // the scripted answer is No
@@ -280,6 +284,8 @@ class GameFilesTest : public QObject {
     auto *left = Get<QTreeWidget>(dlg, "lvLeft"), *right = Get<QTreeWidget>(dlg, "lvRight");
     auto *add = Get<QPushButton>(dlg, "cmdAdd"), *remove = Get<QPushButton>(dlg, "cmdRemove");
     QCOMPARE(Column(right, 0), QStringList{"Scarab"});
+    QCOMPARE(left->headerItem()->text(0), QString());
+    QCOMPARE(right->headerItem()->text(0), QString("Hot Games List"));
     QCOMPARE(left->topLevelItemCount(), t->cData.TotalGames() - 1);
 
     Click(left, 1);  // Spider Single Suit
@@ -314,6 +320,24 @@ class GameFilesTest : public QObject {
     QCOMPARE(GetRecentCount(*t, kRecentSaved), 0);
     QCOMPARE(GetRecentCount(*t, kRecentPlayed), 1);
     QVERIFY(!save->isEnabled() && played->isEnabled());
+  }
+
+  // Each recently-played entry listed plays; one that could not is not listed.
+  void everyRecentlyPlayedEntryPlays() {
+    test::TestProgram t;
+    t.Deal("Spider", 5);
+    const std::string file = t.home.File("negative.vq0");
+    QVERIFY(t->cEngine.SavetoFile(file));
+    std::string text = test::ReadFile(file);
+    text.replace(text.find("\r\n 5 \r\n"), 7, "\r\n-5 \r\n");  // a number field, as another program may write
+    test::WriteFile(file, text);
+    QVERIFY(t->cGamePlay.PlayFile(file, true));
+    QCOMPARE(t->cGamePlay.GameNo().Text(), std::string("-5"));
+    t->cFunc.AddtoMRU(kRecentPlayed, "Spider - -5");  // kept by an earlier version
+    t->cFunc.AddtoMRU(kRecentPlayed, "Spider - 12");
+    const auto entries = RecentMenuEntries(*t, kRecentPlayed);
+    QCOMPARE(entries, (std::vector<std::string>{"Spider - 12", "Spider - 5"}));
+    for (const std::string& entry : entries) QVERIFY(PlayRecent(*t, RecentCode(kRecentPlayed), entry));
   }
 
   void routerOpensTheWindowsOfTheirKeys() {
