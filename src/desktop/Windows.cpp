@@ -59,6 +59,7 @@ void ShowContents(MainWindow& main) {
     help->setObjectName("helpContents");
     help->setWindowFlag(Qt::Window);
     help->setWindowTitle(QString::fromStdString(main.app().cData.ProdName()) + " Help");
+    help->document()->setDocumentMargin(12);
     help->setSource(QUrl("qrc:/help/index.html"));
     // A page's natural size, but never past the screen: a large scale leaves less room.
     const QRect room = main.screen()->availableGeometry();
