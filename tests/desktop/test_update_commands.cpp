@@ -3,7 +3,6 @@
 #include <QtTest>
 #include <atomic>
 #include <cstdlib>
-#include <new>
 
 #include "MainWindow.h"
 #include "TemporaryUserHome.h"
@@ -14,8 +13,8 @@ namespace {
 std::atomic<long> allocations{0};
 }  // namespace
 
-// Qt's strings and containers take their memory from malloc, the rest of C++ from operator
-// new: both are counted. glibc keeps its own entry points beside the ones replaced here.
+// Every allocation is counted where it lands: Qt's strings and containers call malloc, and
+// so does operator new. glibc keeps its own entry points beside the ones replaced here.
 extern "C" {
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);
@@ -33,16 +32,6 @@ void* realloc(void* p, std::size_t size) {
   return __libc_realloc(p, size);
 }
 }
-
-void* operator new(std::size_t size) {
-  if (void* p = std::malloc(size ? size : 1)) return p;
-  throw std::bad_alloc();
-}
-void* operator new[](std::size_t size) { return operator new(size); }
-void operator delete(void* p) noexcept { std::free(p); }
-void operator delete[](void* p) noexcept { std::free(p); }
-void operator delete(void* p, std::size_t) noexcept { std::free(p); }
-void operator delete[](void* p, std::size_t) noexcept { std::free(p); }
 
 class TestUpdateCommands : public QObject {
   Q_OBJECT
