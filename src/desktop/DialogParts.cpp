@@ -1,7 +1,11 @@
 #include "DialogParts.h"
 
+#include <QHeaderView>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QTreeWidget>
+#include <algorithm>
 
 namespace qv {
 
@@ -13,10 +17,17 @@ QPushButton* NamedButton(const char* name, const char* text) {
 }
 
 void FitColumns(QTreeWidget* list) {
+  constexpr int kGap = 16;
+  int width = std::max(static_cast<const QAbstractItemView*>(list)->sizeHintForColumn(0), list->header()->sectionSizeHint(0)) + kGap;
   for (int c = 1; c < list->columnCount(); ++c) {
     list->resizeColumnToContents(c);
-    list->setColumnWidth(c, list->columnWidth(c) + 16);
+    list->setColumnWidth(c, list->columnWidth(c) + kGap);
+    width += list->columnWidth(c);
   }
+  // The first column takes the room left: the list is made wide enough for its longest
+  // name too, within the screen.
+  width += 2 * list->frameWidth() + list->verticalScrollBar()->sizeHint().width();
+  list->setMinimumWidth(std::min(width, list->screen()->availableGeometry().width() * 4 / 5));
 }
 
 }  // namespace qv

@@ -9,7 +9,8 @@ namespace qv {
 
 // A button named as its control, which Enter does not press unless it is the default.
 QPushButton* NamedButton(const char* name, const char* text);
-// Each column after the first as wide as its widest text and a gap, so texts never touch.
+// Each column as wide as its widest text and a gap, so texts are never cut and never touch;
+// the first column stretches over what is left.
 void FitColumns(QTreeWidget* list);
 
 }  // namespace qv

@@ -62,7 +62,7 @@ void SaveGame(Program& app, QWidget* parent, const FileChooser& choose) {
   request.caption = "Save Game";
   request.folder = Q(SaveInitDir(app));
   request.fileName = Q(app.cGamePlay.GameName() + "-" + app.cGamePlay.GameNo().Text() + inc);
-  request.filters = {Q(app.cData.ProdName() + " InComplete Game (*" + inc + ")")};
+  request.filters = {Q(" InComplete Game (*" + inc + ")")};
   request.defaultSuffix = Q(inc.substr(1));
   const std::string path = choose(parent, request).toStdString();
   if (path.empty()) return;

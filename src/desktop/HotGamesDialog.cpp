@@ -33,7 +33,7 @@ void ChooseFirst(QTreeWidget* list) {
 HotGamesDialog::HotGamesDialog(Program& app, QWidget* parent)
     : QDialog(parent),
       app_(app),
-      left_(GameList("lvLeft", "Games List")),
+      left_(GameList("lvLeft", "")),
       right_(GameList("lvRight", "Hot Games List")),
       add_(NamedButton("cmdAdd", ">>")),
       remove_(NamedButton("cmdRemove", "<<")) {

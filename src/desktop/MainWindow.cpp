@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <algorithm>
 #include <QMenuBar>
+#include <QScreen>
 #include <QToolBar>
 
 #include "CardPainter.h"
@@ -54,7 +55,15 @@ MainWindow::MainWindow(ISettingsStore& store, QWidget* parent)
   for (auto it = actions_.cbegin(); it != actions_.cend(); ++it)
     if (it.key() != "Stop" && it.key() != "OrgPend")  // kept by the replay and the pending list
       commands_.push_back({it.key().toStdString(), it.value(), toolbarItems_.value(it.key())});
-  resize(1280, 800);
+  autoPlayEntry_ = actions_.value("AutoPlay");
+  autoPlayButton_ = toolbarItems_.value("AutoPlay");
+  viewToolEntry_ = actions_.value("ViewTool");
+  SetStopEnabled(false);  // nothing replays yet
+  // Within the screen and in its middle, placed before it shows: a question at start opens
+  // over the window before the desktop has had a word about where it goes.
+  const QRect room = screen()->availableGeometry();
+  resize(QSize(1280, 800).boundedTo(room.size() * 0.9));
+  move(room.center() - rect().center());
 }
 
 MainWindow::~MainWindow() {
@@ -162,9 +171,15 @@ void MainWindow::UpdateCommands() {
     c.entry->setEnabled(enabled);
     if (c.button) c.button->setEnabled(enabled);
   }
-  actions_.value("AutoPlay")->setChecked(AutoPlayChecked(*app_));
-  toolbarItems_.value("AutoPlay")->setChecked(AutoPlayPressed(*app_));
-  actions_.value("ViewTool")->setChecked(ToolbarChecked(*app_));
+  autoPlayEntry_->setChecked(AutoPlayChecked(*app_));
+  autoPlayButton_->setChecked(AutoPlayPressed(*app_));
+  // View Toolbar shows and hides the toolbar itself; the setting keeps the choice.
+  const bool toolbar = ToolbarChecked(*app_);
+  viewToolEntry_->setChecked(toolbar);
+  if (toolbar != toolbarShown_) {
+    toolbarShown_ = toolbar;
+    toolbar_->setVisible(toolbar);
+  }
 }
 
 void MainWindow::SetTitle(const std::string& title) {

@@ -81,6 +81,11 @@ class MainWindow : public QMainWindow, public IWindow {
     QAction* button;
   };
   std::vector<Command> commands_;
+  // Looked up once, as the tick sets them ten times a second.
+  QAction* autoPlayEntry_ = nullptr;
+  QAction* autoPlayButton_ = nullptr;
+  QAction* viewToolEntry_ = nullptr;
+  bool toolbarShown_ = true;  // as built
   std::array<QMenu*, 3> recentMenus_{};  // by list: played, saved, opened
   QMenu* pendMenu_ = nullptr;
   std::vector<QAction*> pendEntries_;

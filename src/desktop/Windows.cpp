@@ -4,6 +4,7 @@
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
@@ -58,8 +59,13 @@ void ShowContents(MainWindow& main) {
     help->setObjectName("helpContents");
     help->setWindowFlag(Qt::Window);
     help->setWindowTitle(QString::fromStdString(main.app().cData.ProdName()) + " Help");
+    help->document()->setDocumentMargin(12);
     help->setSource(QUrl("qrc:/help/index.html"));
-    help->resize(640, 720);
+    // A page's natural size, but never past the screen: a large scale leaves less room.
+    const QRect room = main.screen()->availableGeometry();
+    const QSize size = QSize(700, 780).boundedTo(room.size() * 0.9);
+    help->resize(size);
+    help->move(room.center() - QPoint(size.width() / 2, size.height() / 2));
   }
   help->show();
   help->raise();

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 
 #include "TestProgram.h"
@@ -30,18 +31,35 @@ TEST(FileClasses, RegisteringMakesBothTypesKnownAndKeepsOtherDefaults) {
   const std::string entry = test::ReadFile((t.home.Path() / "data" / "applications" / "quorvale.desktop").string());
   EXPECT_NE(entry.find("MimeType=application/x-quorvale-finished;application/x-quorvale-incomplete;"), std::string::npos);
   EXPECT_NE(entry.find("%f"), std::string::npos);
-  // The user's mime database now names the types by their extensions.
-  const fs::path globs = t.home.Path() / "data" / "mime" / "globs2";
-  if (fs::exists(globs)) {
-    EXPECT_NE(test::ReadFile(globs.string()).find("application/x-quorvale-incomplete:*.vq0"), std::string::npos);
-  }
+  // A default the user chose since is theirs: the types stay registered.
+  test::WriteFile(mimeapps.string(), "[Default Applications]\napplication/x-quorvale-finished=other.desktop\n"
+                                     "application/x-quorvale-incomplete=other.desktop\n");
+  EXPECT_EQ(GetFileClass(*t.app, ".vq1"), "Quorvale.Finished");
 }
 
-TEST(FileClasses, AMissingPieceMeansNotRegistered) {
-  test::TestProgram t;
-  RegisterFileTypes(*t.app);
-  fs::remove(t.home.Path() / "data" / "applications" / "quorvale.desktop");
-  EXPECT_EQ(GetFileClass(*t.app, ".vq1"), "");
+// Each part of the registration failing in turn: the types do not count as registered,
+// so the next start registers again, and then they do.
+TEST(FileClasses, APartThatFailedIsTriedAgainAtTheNextStart) {
+  const char* const parts[] = {"data/mime/packages/quorvale-savedgame.xml", "data/applications/quorvale.desktop",
+                               "config/mimeapps.list", "update-mime-database"};
+  const std::string path = std::getenv("PATH");
+  for (const std::string part : parts) {
+    SCOPED_TRACE(part);
+    test::TestProgram t;
+    // A folder where the file must go refuses its write, as a full disk would (root ignores
+    // permissions); a tool that is not found fails as a missing one would.
+    const bool tool = part == "update-mime-database";
+    if (tool) setenv("PATH", t.home.File("no-tools").c_str(), 1);
+    else fs::create_directories(t.home.Path() / part / "in-the-way");
+    RegisterFileTypes(*t.app);
+    EXPECT_EQ(GetFileClass(*t.app, ".vq0"), "");
+    EXPECT_EQ(GetFileClass(*t.app, ".vq1"), "");
+    if (tool) setenv("PATH", path.c_str(), 1);
+    else fs::remove_all(t.home.Path() / part);
+    RegisterFileTypes(*t.app);
+    EXPECT_EQ(GetFileClass(*t.app, ".vq0"), "Quorvale.Incomplete");
+    EXPECT_EQ(GetFileClass(*t.app, ".vq1"), "Quorvale.Finished");
+  }
 }
 
 }  // namespace

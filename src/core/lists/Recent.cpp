@@ -1,11 +1,27 @@
 #include "lists/Recent.h"
 
+#include "engine/GameNo.h"
 #include "session/Program.h"
 #include "session/SavedGameFile.h"
 
 namespace qv {
 
+namespace {
+// A recently-played entry "Name - Number" is read from its last " - ", as PlayString
+// reads it, so a name may hold a dash. It plays only with a number in digits: one read in
+// its number form from a file ("-5") would make an entry that does nothing.
+bool NumberPlays(const std::string& item) {
+  const auto cut = item.rfind(" - ");
+  return cut != std::string::npos && cut > 0 && GameNo::IsDigitText(item.substr(cut + 3));
+}
+// Its game may come and go (a created game deleted, made again): that is asked when listed.
+bool Plays(const Program& app, const std::string& item) {
+  return NumberPlays(item) && app.cData.GameExists(item.substr(0, item.rfind(" - ")));
+}
+}  // namespace
+
 void AddRecent(Program& app, int mType, const std::string& item) {
+  if (mType == kRecentPlayed && !NumberPlays(item)) return;
   app.cFunc.AddtoMRU(mType, item);
   app.surface.window.RefreshMenus();
 }
@@ -24,9 +40,7 @@ std::vector<std::string> RecentMenuEntries(const Program& app, int mType) {
     const std::string& item = slots[i];
     if (item.empty()) continue;
     if (mType == kRecentPlayed) {
-      // The entry plays from the last " - ", as PlayString reads it.
-      const auto cut = item.rfind(" - ");
-      if (cut != std::string::npos && app.cData.GameExists(item.substr(0, cut))) shown.push_back(item);
+      if (Plays(app, item)) shown.push_back(item);
     } else if (ReadGameHeader(item)) {
       shown.push_back(item);
     }

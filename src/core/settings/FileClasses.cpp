@@ -31,6 +31,27 @@ std::vector<FileType> Types(const Program& app) {
 fs::path MimeFile(const Program& app) { return app.folders.appData / "mime" / "packages" / kMimePackage; }
 fs::path DesktopFile(const Program& app) { return app.folders.appData / "applications" / kDesktopEntry; }
 fs::path MimeApps(const Program& app) { return app.folders.config / "mimeapps.list"; }
+// What update-mime-database makes of the packages: the patterns the desktop goes by.
+fs::path MimeDatabaseGlobs(const Program& app) { return app.folders.appData / "mime" / "globs2"; }
+
+bool Holds(const fs::path& file, const std::string& text) {
+  const auto content = ReadWholeFile(file);
+  return content && content->find(text) != std::string::npos;
+}
+
+// The application mimeapps.list names as a type's default, or the empty text. The user may
+// have chosen another one since: that is a registration in place too.
+std::string DefaultApplication(const std::string& mimeapps, const std::string& mime) {
+  std::istringstream in(mimeapps);
+  std::string line;
+  bool inDefaults = false;
+  while (std::getline(in, line)) {
+    if (!line.empty() && line.back() == '\r') line.pop_back();
+    if (line.starts_with("[")) inDefaults = line == "[Default Applications]";
+    else if (inDefaults && line.starts_with(mime + "=")) return line.substr(mime.size() + 1);
+  }
+  return {};
+}
 
 std::string MimeXml(const std::vector<FileType>& types) {
   std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
@@ -81,11 +102,16 @@ std::string WithDefaults(const std::string& old, const std::vector<FileType>& ty
 }  // namespace
 
 std::string GetFileClass(const Program& app, const std::string& ext) {
-  const auto xml = ReadWholeFile(MimeFile(app));
-  std::error_code ec;
-  if (!xml || !fs::exists(DesktopFile(app), ec)) return {};
-  for (const auto& t : Types(app))
-    if (t.ext == ext && xml->find("pattern=\"*" + ext + "\"") != std::string::npos) return t.className;
+  for (const auto& t : Types(app)) {
+    if (t.ext != ext) continue;
+    // Every part must stand, or a double-click in the file manager does not reach us: a
+    // part missing means that registering failed there, and the next start tries again.
+    const bool known = Holds(MimeFile(app), "pattern=\"*" + ext + "\"") &&
+                       Holds(DesktopFile(app), t.mime + ";") &&
+                       !DefaultApplication(ReadWholeFile(MimeApps(app)).value_or(""), t.mime).empty() &&
+                       Holds(MimeDatabaseGlobs(app), ":" + t.mime + ":*" + ext);
+    return known ? t.className : "";
+  }
   return {};
 }
 
