@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "TestProgram.h"
+#include "lists/AutoSave.h"
 #include "session/CommandTable.h"
 #include "session/Commands.h"
 #include "session/FirstGame.h"
@@ -193,6 +194,7 @@ TEST_F(FirstGames, AFileAndAnUnfinishedGameAskWhichToPlay) {
   FirstGame(*t.app, t.home.File("given.vq0"));
   EXPECT_EQ(t->cGamePlay.GameName(), "Plaza");
   EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
+  EXPECT_EQ(GetAutoSaveFiles(*t.app, false).size(), 1u);  // given up, it is kept as a copy
   EXPECT_NE(t.dialogs.shown[0].find("An unfinished game from previous session exists!"), std::string::npos);
 
   test::TestProgram no;

@@ -256,38 +256,31 @@ TEST_F(SessionFiles, APendingGameThatCannotBeWrittenBackStays) {
   EXPECT_EQ(test::Snapshot(*t.app), saved);
 }
 
-TEST(SessionStop, UnloadKeepsARunningGameForTheNextStart) {
-  test::TestProgram t;
-  t.Deal("Spider Two Suit", 31);
-  test::DealRows(t, 1);
-  t->cGamePlay.Unload();
-  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 1);
-  const auto h = ReadGameHeader(t->cData.UnFinFile());
-  ASSERT_TRUE(h);
-  EXPECT_EQ(h->GameName, "Spider Two Suit");
-  EXPECT_EQ(h->Moves, 10);
-  EXPECT_EQ(t->cData.UnFinFile(), (t.home.Path() / "data" / "Velmarin Works" / "Quorvale 6.0" / "Unfin.vq0").string());
-}
-
-TEST(SessionStop, UnloadWithoutKeepingOrWithoutAGameLeavesNothingWaiting) {
+TEST(SessionStop, UnloadKeepsARunningGameOnlyWhenItsFileIsWhole) {
   test::TestProgram t;
   t.settings.WriteInt("General", "UnFin", 1);
   t->cGamePlay.Unload();  // no game: only the mark is cleared
   EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
-  t.Deal("Spider", 31);
-  t.settings.WriteInt("Options", "GameSave", 0);
+  t.Deal("Spider Two Suit", 31);
+  test::DealRows(t, 1);
   t->cGamePlay.Unload();
-  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
-  EXPECT_FALSE(std::filesystem::exists(t->cData.UnFinFile()));
-}
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 1);
+  EXPECT_EQ(ReadGameHeader(t->cData.UnFinFile())->Moves, 10);
+  EXPECT_EQ(t->cData.UnFinFile(), (t.home.Path() / "data" / "Velmarin Works" / "Quorvale 6.0" / "Unfin.vq0").string());
 
-TEST(SessionStop, AnUnfinishedGameThatCannotBeWrittenIsNotMarkedWaiting) {
-  test::TestProgram t;
-  t.Deal("Spider", 31);
-  std::filesystem::create_directories(t->cData.UnFinFile());  // the name is taken by a folder
-  t->cGamePlay.Unload();
-  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
-  EXPECT_EQ(t.dialogs.shown.size(), 1u);
+  test::TestProgram off;
+  off.Deal("Spider", 31);
+  off.settings.WriteInt("Options", "GameSave", 0);
+  off->cGamePlay.Unload();
+  EXPECT_EQ(off->cRegistry.Get(setting::UnFin), 0);
+  EXPECT_FALSE(std::filesystem::exists(off->cData.UnFinFile()));
+
+  test::TestProgram taken;
+  taken.Deal("Spider", 31);
+  std::filesystem::create_directories(taken->cData.UnFinFile());  // the name is taken by a folder
+  taken->cGamePlay.Unload();
+  EXPECT_EQ(taken->cRegistry.Get(setting::UnFin), 0);
+  EXPECT_EQ(taken.dialogs.shown.size(), 1u);
 }
 
 TEST(SessionStop, ASettingsStoreThatRefusesWritesDoesNotStopTheGame) {

@@ -231,19 +231,6 @@ TEST_F(Crash, APendingGameIsKeptCurrentInItsOwnFile) {
   EXPECT_NE(t->cGamePlay.PendFile(), pending);  // it waits in the list, not on the table
 }
 
-TEST_F(Crash, AFileChosenOverTheUnfinishedGameKeepsThatGameAsACopy) {
-  ASSERT_TRUE(t->cEngine.SavetoFile(t.home.File("other.vq0")));
-  Stop(t);
-  t.Restart();
-  StartUp(*t.app);
-  t.dialogs.answers.push_back(Answer::Yes);
-  FirstGame(*t.app, t.home.File("other.vq0"));
-  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
-  ASSERT_EQ(GetAutoSaveFiles(*t.app, false).size(), 1u);
-  Tick(0);  // now the file's game is the one kept
-  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 1);
-}
-
 // Everything the user can fire: every command key, presses on cards and the replay timers.
 void FireEverything(Program& app) {
   for (const MenuDef& menu : MainMenus())
