@@ -46,6 +46,8 @@ TEST(ProductData, AnUnknownNameIsNoGameAndCaseCounts) {
 // also after the user deleted it while the program runs.
 TEST(ProductData, FoldersAreMadeForWritingOnlyAndMadeAgainAfterADelete) {
   test::TestProgram t;
+  t->session.Release();  // a program that keeps no session, as quorvale-cli's lists
+  fs::remove_all(t.home.Path() / "data");
   const fs::path app = t.home.Path() / "data/Velmarin Works/Quorvale 6.0";
   const fs::path games = t.home.Path() / "Documents/My Games/Quorvale 6.0";
   const std::pair<std::string (cData::*)(FolderUse) const, fs::path> folders[] = {

@@ -231,6 +231,29 @@ TEST_F(Crash, APendingGameIsKeptCurrentInItsOwnFile) {
   EXPECT_NE(t->cGamePlay.PendFile(), pending);  // it waits in the list, not on the table
 }
 
+TEST_F(Crash, AProgramBesideTheOneThatKeepsTheSessionLeavesItsGameAlone) {
+  Tick(0);
+  // quorvale-cli run beside the window: the same settings and files.
+  RecordingSprites sprites;
+  RecordingWindow window;
+  test::ScriptedDialogs dialogs;
+  Program beside(Surface{sprites, window, dialogs, t.clock}, t.settings, t.Folders());
+  StartUp(beside);
+  beside.cGamePlay.PlayNumber("Coral", GameNo::Number(3));
+  beside.keeper.Tick();
+  ExecCommand(beside, "Close");
+  beside.cGamePlay.PlayNumber("Plaza", GameNo::Number(4));
+  ShutDown(beside);
+  EXPECT_EQ(t->cRegistry.Get(setting::SessionRunning), 1);
+  EXPECT_EQ(GamesKept(*t.app), (std::multiset<std::string>{"Coral - 3 @0", "Plaza - 4 @0", "Spider - 1234 @10"}));
+  // The first program's own start goes on as before; a start beside it offers nothing waiting.
+  Program again(Surface{sprites, window, dialogs, t.clock}, t.settings, t.Folders());
+  StartUp(again);
+  FirstGame(again, "");
+  EXPECT_EQ(again.cEngine.GetTransID(), 0);
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 1);
+}
+
 // Everything the user can fire: every command key, presses on cards and the replay timers.
 void FireEverything(Program& app) {
   for (const MenuDef& menu : MainMenus())

@@ -49,8 +49,13 @@ void TestProgram::Restart() {
   sprites = RecordingSprites();
   sprites.onYield = std::move(hook);
   window = RecordingWindow();
-  PlatformFolders folders{home.Path() / "data", home.Path() / "Documents", home.Path() / "config", home.Path() / "bin"};
-  app = std::make_unique<Program>(Surface{sprites, window, dialogs, clock}, settings, folders);
+  app = std::make_unique<Program>(Surface{sprites, window, dialogs, clock}, settings, Folders());
+  // It keeps the session, as the first program started on a home does.
+  app->session.Acquire(app->cData.AppDir() + "/session.lock");
+}
+
+PlatformFolders TestProgram::Folders() const {
+  return {home.Path() / "data", home.Path() / "Documents", home.Path() / "config", home.Path() / "bin"};
 }
 
 void TestProgram::Deal(const std::string& game, uint64_t number) { app->cGamePlay.PlayNumber(game, GameNo::Number(number)); }

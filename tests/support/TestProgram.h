@@ -63,6 +63,8 @@ struct TestProgram {
   // The next start: a new program over the same settings and home, with a fresh window.
   // The old one is dropped as a crash would drop it; an orderly stop is ShutDown first.
   void Restart();
+  // The folders of the temporary home, for a second program on it.
+  PlatformFolders Folders() const;
 };
 
 // The seven fields that decide a table; Spider's by default.

@@ -33,7 +33,8 @@ void FirstGame(Program& app, const std::string& path) {
   // One change from the question to the dealt table: a stop meanwhile waits for its end.
   Motion::Step step(app.motion);
   if (!step) return;
-  const bool unfinished = app.cRegistry.Get(setting::UnFin) == 1;
+  // The unfinished game is the game of the program that keeps the session.
+  const bool unfinished = app.session.Held() && app.cRegistry.Get(setting::UnFin) == 1;
   if (path.empty()) {
     // The selection dialog comes with the game lists; until then a new deal of the last game.
     if (unfinished) ResumeUnfinished(app);

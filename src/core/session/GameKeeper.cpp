@@ -11,6 +11,7 @@ constexpr int64_t kWriteGapMs = 1000;
 
 void GameKeeper::Tick() {
   const cGamePlay& gp = app_.cGamePlay;
+  if (!gp.IsPending() && !app_.session.Held()) return;  // the unfinished game is another program's
   if (gp.Game_Status() != 1 || app_.motion.state() != Motion::State::Still || app_.drag.Dragging) return;
   const int revision = app_.cEngine.Revision();
   const int64_t now = app_.surface.clock.Millis();
@@ -24,7 +25,7 @@ void GameKeeper::Tick() {
 
 void GameKeeper::Forget() {
   written_ = -1;
-  if (app_.cRegistry.Get(setting::UnFin) != 0) app_.cRegistry.Set(setting::UnFin, 0);
+  if (app_.session.Held() && app_.cRegistry.Get(setting::UnFin) != 0) app_.cRegistry.Set(setting::UnFin, 0);
 }
 
 }  // namespace qv

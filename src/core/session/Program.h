@@ -14,6 +14,7 @@
 #include "session/cFileSys.h"
 #include "session/GameKeeper.h"
 #include "session/Motion.h"
+#include "session/SessionLock.h"
 #include "session/cGamePlay.h"
 #include "settings/ISettingsStore.h"
 #include "settings/cRegistry.h"
@@ -66,6 +67,7 @@ class Program {
   DragState drag;
   qv::Motion motion;
   qv::GameKeeper keeper;
+  qv::SessionLock session;  // held by the program that keeps the unfinished game
   int ScreenWidth = 19200;  // the width the table is centred in, twips
   std::mt19937_64 rng;      // seeded from the clock, as new game numbers are
 };

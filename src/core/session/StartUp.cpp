@@ -20,15 +20,21 @@ void TakeUpCrashedGame(Program& app) {
 }  // namespace
 
 void StartUp(Program& app) {
-  if (app.cRegistry.Get(setting::SessionRunning) == 1) TakeUpCrashedGame(app);
-  app.cRegistry.Set(setting::SessionRunning, 1);
+  // A program started beside another one (quorvale-cli beside the window) leaves the
+  // session's files and marks to the one that keeps them.
+  if (app.session.Acquire(app.cData.AppDir() + "/session.lock")) {
+    if (app.cRegistry.Get(setting::SessionRunning) == 1) TakeUpCrashedGame(app);
+    app.cRegistry.Set(setting::SessionRunning, 1);
+  }
   app.cData.SesStartTime(GeneralDate(app.surface.clock.Now()));
   if (PlayerCount(app.cRegistry) == 0) SetPlayer(app.cRegistry, 1, "Player1", true);
 }
 
 void ShutDown(Program& app) {
   app.cGamePlay.Unload();
+  if (!app.session.Held()) return;
   app.cRegistry.Set(setting::SessionRunning, 0);
+  app.session.Release();
 }
 
 bool StopProgram(Program& app, std::function<void()> stopLater) {

@@ -148,7 +148,13 @@ void cGamePlay::ClearArea() {
 void cGamePlay::Unload() {
   // Each game is given its place before the mark that points elsewhere is cleared: a stop
   // cut short in between leaves a game in two places at worst, never in none.
+  const bool keepsSession = app_.session.Held();
   if (status_ == 1 && loadingType_ != kPendingGame && app_.cRegistry.Get(setting::GameSave) == 1) {
+    // Beside the program that keeps the unfinished game, this one's waits as a copy.
+    if (!keepsSession) {
+      AutoSaveGame(app_, false, true);
+      return;
+    }
     // The game counts as waiting only once its file is there whole.
     std::string error;
     if (app_.cEngine.SavetoFile(app_.cData.UnFinFile(), &error)) app_.cRegistry.Set(setting::UnFin, 1);
@@ -157,7 +163,7 @@ void cGamePlay::Unload() {
   }
   // A pending game whose file cannot be written back is kept as an auto-saved copy.
   if (status_ == 1 && !EndGame(0, true)) AutoSaveGame(app_, false, true);
-  app_.cRegistry.Set(setting::UnFin, 0);
+  if (keepsSession) app_.cRegistry.Set(setting::UnFin, 0);
 }
 
 void cGamePlay::PauseGame(bool mPause) {
