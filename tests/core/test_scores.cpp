@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "TestProgram.h"
+#include "lists/Pending.h"
 #include "lists/Recent.h"
 #include "scores/Finish.h"
 #include "scores/PlayerEdit.h"
@@ -268,6 +269,25 @@ TEST_F(Store, AWinIsRecordedBeforeTheFinishShowsAndItsCloseKeepsTheGame) {
   ShutDown(*t.app);
   EXPECT_EQ(t->cScore.SesTop(), 1);
   EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
+}
+
+TEST_F(Store, AWonPendingGameLeavesTheListForGood) {
+  test::PlayWithRules(t, {.HOrder = 5, .MOrder = 5});
+  MoveToPending(*t.app);
+  ASSERT_EQ(GetPendingFiles(*t.app).size(), 1u);
+  const std::string pending = GetPendingFiles(*t.app)[0];
+  ASSERT_TRUE(t->cGamePlay.PlayPendFile(pending));
+  std::vector<std::string> menuAtWin;
+  t.window.onFinish = [&] {
+    for (const auto& e : PendingMenuEntries(*t.app)) menuAtWin.push_back(e.caption);
+    CloseFinish(*t.app, "");
+  };
+  ASSERT_TRUE(test::WinGame(t));
+  EXPECT_TRUE(menuAtWin.empty());
+  EXPECT_FALSE(fs::exists(pending));
+  EXPECT_TRUE(PendingMenuEntries(*t.app).empty());
+  t->cScore.OpenAllScore();
+  EXPECT_EQ(t->cScore.ScoreTop(), 1);
 }
 
 }  // namespace

@@ -22,6 +22,11 @@
 #include "HighScoreDialog.h"
 #include "InputAsker.h"
 #include "LogStatDialog.h"
+#include "MainWindow.h"
+#include "QtSprites.h"
+#include "TableView.h"
+#include "lists/Recent.h"
+#include "settings/MemorySettingsStore.h"
 #include "PlayersDialog.h"
 #include "SessionStatDialog.h"
 #include "TemporaryUserHome.h"
@@ -114,6 +119,63 @@ class ScoreWindowsTest : public QObject {
     QCOMPARE(t->cRegistry.Get(setting::SaveFile), 0);
     QVERIFY(!std::filesystem::exists(t->cData.SavedFolder() + "/Test Rules-2.vq1"));
     QCOMPARE(t->cGamePlay.Game_Status(), 0);
+  }
+
+  // In the real window: the winning double-click, "Congrats" with the win in the file, "Save
+  // this Game" on and "New Game" on its toolbar; the new game comes after the close.
+  void aWinWithTheMouseEndsInCongratsAndTheNextGame() {
+    const std::string almost = home_.path().toStdString() + "/almost.vq0";
+    {
+      test::TestProgram t;
+      test::PlayWithRules(t, {.HOrder = 5, .MOrder = 5});
+      QVERIFY(test::WinGame(t));
+      int speed = 0;
+      t->cEngine.Undo(speed);
+      QVERIFY(t->cEngine.SavetoFile(almost));
+    }
+    MemorySettingsStore store;
+    MainWindow w(store);
+    w.sprites().SetFramePacing(false);
+    w.resize(1280, 800);
+    w.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&w));
+    w.Load();
+    Program& app = w.app();
+    app.cRegistry.Set(setting::SaveFile, 1);
+    QVERIFY(app.cGamePlay.PlayFile(almost, false));
+    int last = -1;
+    for (int p = 0; p < 10; ++p)
+      if (app.cPlay.GetTop(0, p) >= 0) last = app.cPlay.GetTopPicID(0, p);
+    QString seen;
+    bool recorded = false;
+    QTimer poll;
+    poll.callOnTimeout([&] {
+      QWidget* modal = QApplication::activeModalWidget();
+      auto* finish = qobject_cast<FinishDialog*>(modal);
+      if (!finish) {
+        if (modal) seen = modal->windowTitle(), modal->close();  // anything else is a fault
+        return;
+      }
+      poll.stop();
+      seen = finish->windowTitle();
+      app.cScore.OpenAllScore();
+      recorded = app.cScore.ScoreTop() == 1 && app.cScore.ScoreItem(1).Won == 1;
+      app.cScore.CloseScore();
+      Get<QAction>(*finish, "tbNew")->trigger();
+    });
+    poll.start(20);
+    const QPoint at = w.view().mapFromScene(
+        QPointF(w.sprites().Left(Sprites::PicCD, last) + 500, w.sprites().Top(Sprites::PicCD, last) + 40));
+    QTest::mouseClick(w.view().viewport(), Qt::LeftButton, {}, at);
+    QTest::mouseDClick(w.view().viewport(), Qt::LeftButton, {}, at);
+    QCOMPARE(seen, QString("Congrats"));
+    QVERIFY(recorded);
+    const std::string saved = app.cData.SavedFolder() + "/Test Rules-1.vq1";
+    QVERIFY(std::filesystem::exists(saved));
+    QCOMPARE(RecentMenuEntries(app, kRecentSaved).at(0), saved);
+    QTRY_COMPARE(app.cGamePlay.Game_Status(), 1);  // the next game, once the move returned
+    QCOMPARE(app.cEngine.TotalGoalCards(), 0);
+    QTRY_VERIFY(w.windowTitle().contains("[Player1]"));
   }
 
   void highScoreSelectorsFollowThePlayerAndTheSort() {
