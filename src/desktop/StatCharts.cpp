@@ -28,9 +28,11 @@ QChart* FreshChart(QChartView* view) {
 // A value axis from 0 that ends on a round figure, with whole-number labels.
 QValueAxis* CountAxis(qreal top) {
   auto* axis = new QValueAxis;
-  axis->setRange(0, std::max<qreal>(top, 1));
+  axis->setRange(0, std::max<qreal>(top * 1.08, 1));  // room for the labels above the bars
   axis->setLabelFormat("%.0f");
   axis->applyNiceNumbers();
+  // Small counts get a line for each whole number, never two lines labelled alike.
+  if (axis->max() <= 5) axis->setTickCount(int(axis->max()) + 1);
   return axis;
 }
 
@@ -59,6 +61,7 @@ void ShowPie(QChartView* view, const QList<QPair<QString, qreal>>& slices) {
 void ShowBars(QChartView* view, const QStringList& names, const QList<qreal>& values) {
   QChart* chart = FreshChart(view);
   auto* set = new QBarSet("");
+  set->setLabelColor(Qt::black);
   qreal top = 0;
   for (qreal v : values) {
     set->append(std::max<qreal>(v, 0));
@@ -67,7 +70,7 @@ void ShowBars(QChartView* view, const QStringList& names, const QList<qreal>& va
   auto* series = new QBarSeries;
   series->append(set);
   series->setLabelsVisible(true);
-  series->setLabelsPosition(QAbstractBarSeries::LabelsInsideEnd);
+  series->setLabelsPosition(QAbstractBarSeries::LabelsOutsideEnd);
   chart->addSeries(series);
   auto* x = new QBarCategoryAxis;
   x->append(names);
@@ -108,11 +111,18 @@ void ShowLines(QChartView* view, const QStringList& names, const QList<QList<qre
     auto* numbers = new QValueAxis;
     numbers->setRange(1, std::max<qsizetype>(points, 2));
     numbers->setLabelFormat("%.0f");
+    // Whole numbers only, at most about ten of them.
+    numbers->setTickType(QValueAxis::TicksDynamic);
+    numbers->setTickAnchor(1);
+    numbers->setTickInterval(std::max<qsizetype>(1, (points + 9) / 10));
     x = numbers;
   }
   chart->addAxis(x, Qt::AlignBottom);
   QValueAxis* y = CountAxis(top);
-  if (bottom < 0) y->setMin(bottom), y->applyNiceNumbers();
+  if (bottom < 0) {
+    y->setMin(bottom);
+    y->applyNiceNumbers();
+  }
   chart->addAxis(y, Qt::AlignLeft);
   for (QLineSeries* line : lines) line->attachAxis(x), line->attachAxis(y);
   chart->legend()->setAlignment(Qt::AlignBottom);
