@@ -37,7 +37,7 @@ CivilDate FromDayNumber(long z) {
 }
 
 // Reads a whole number at `at` and moves past it; false when there is none.
-bool ReadNumber(const std::string& s, size_t& at, int& out) {
+bool ReadNumber(std::string_view s, size_t& at, int& out) {
   const char* first = s.data() + at;
   const auto [end, ec] = std::from_chars(first, s.data() + s.size(), out);
   if (ec != std::errc() || end == first || end - first > 4) return false;
@@ -45,20 +45,20 @@ bool ReadNumber(const std::string& s, size_t& at, int& out) {
   return true;
 }
 
-bool Expect(const std::string& s, size_t& at, char c) {
+bool Expect(std::string_view s, size_t& at, char c) {
   if (at >= s.size() || s[at] != c) return false;
   ++at;
   return true;
 }
 
 // " h:mm:ss AM", " h:mm:ss PM" or " H:mm:ss", checked and then let go: only the day counts.
-bool ReadTime(const std::string& s, size_t at) {
+bool ReadTime(std::string_view s, size_t at) {
   int h = 0, m = 0, sec = 0;
   if (!Expect(s, at, ' ') || !ReadNumber(s, at, h) || !Expect(s, at, ':') || !ReadNumber(s, at, m) ||
       !Expect(s, at, ':') || !ReadNumber(s, at, sec) || m > 59 || sec > 59)
     return false;
   if (at == s.size()) return h <= 23;
-  const std::string rest = s.substr(at);
+  const std::string_view rest = s.substr(at);
   return (rest == " AM" || rest == " PM") && h >= 1 && h <= 12;
 }
 
@@ -66,7 +66,7 @@ constexpr const char* kMonths[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun", "Ju
 
 }  // namespace
 
-std::optional<CivilDate> ReadGeneralDate(const std::string& text) {
+std::optional<CivilDate> ReadGeneralDate(std::string_view text) {
   CivilDate d;
   size_t at = 0;
   if (!ReadNumber(text, at, d.month) || !Expect(text, at, '/') || !ReadNumber(text, at, d.day) ||

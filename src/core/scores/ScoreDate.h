@@ -3,6 +3,7 @@
 #include <ctime>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace qv {
 
@@ -15,7 +16,7 @@ struct CivilDate {
 
 // The date part of the general date form, with or without its time ("11/17/2026 6:41:26 AM",
 // "11/17/2026 18:41:26", "11/17/2026"); std::nullopt when it does not read as a real date.
-std::optional<CivilDate> ReadGeneralDate(const std::string& text);
+std::optional<CivilDate> ReadGeneralDate(std::string_view text);
 // The local calendar day of a moment.
 CivilDate LocalDay(std::time_t t);
 

@@ -1,7 +1,7 @@
 #include "scores/cScore.h"
 
 #include <fstream>
-#include <iterator>
+#include <algorithm>
 
 #include "scores/Players.h"
 #include "session/Program.h"
@@ -63,9 +63,13 @@ void cScore::AddSesGame(int16_t mWon) { ses_.push_back(CurrentGame(app_, mWon));
 
 void cScore::OpenScore(const std::string& Player) {
   const std::string path = ScoreFile(Player);
-  std::ifstream in(path, std::ios::binary);
+  std::ifstream in(path, std::ios::binary | std::ios::ate);
   if (!in) return;
-  const std::string text = AsUtf8(std::string(std::istreambuf_iterator<char>(in), {}));
+  std::string text(static_cast<size_t>(std::max<std::streamoff>(in.tellg(), 0)), '\0');
+  in.seekg(0);
+  if (!in.read(text.data(), static_cast<std::streamsize>(text.size()))) return;  // unreadable: no games
+  if (!IsValidUtf8(text)) text = AsUtf8(text);
+  list_.reserve(list_.size() + text.size() / 48);
   int number = 0;
   for (std::string_view line : SplitLines(text)) {
     ++number;
