@@ -7,9 +7,12 @@
 #include <ostream>
 
 #include "CliSurface.h"
+#include "ScoreCommands.h"
 #include "StateJson.h"
 #include "engine/Pointer.h"
 #include "lists/Recent.h"
+#include "scores/PlayerEdit.h"
+#include "scores/Players.h"
 #include "session/Commands.h"
 #include "session/Program.h"
 #include "session/StartUp.h"
@@ -91,6 +94,7 @@ CommandError ScriptRunner::Execute(const std::vector<std::string>& w, bool& fini
   if (cmd == "new" || cmd == "number") return Deal(w);
   if (cmd == "tick" || cmd == "moveto") return WithNumber(w);
   if (cmd == "open" || cmd == "save") return WithPath(w);
+  if (cmd == "player") return Player(w);
   if (w.size() != 1) return Usage(cmd + " takes no arguments");
   // Commands of the window's menus: one that would be greyed does nothing.
   static const std::map<std::string, std::string> kMenuKeys{
@@ -104,6 +108,8 @@ CommandError ScriptRunner::Execute(const std::vector<std::string>& w, bool& fini
     if (app_.cPlay.table().Exists() && app_.cPlay.GetTop(1, 0) >= 0) ClickCard(app_, app_.cPlay.GetTopPicID(1, 0));
   } else if (cmd == "show") {
     out_ << StateJson(app_) << "\n";
+  } else if (cmd == "session") {
+    out_ << SessionJson(app_) << "\n";
   } else if (cmd == "title") {
     app_.cGamePlay.Update_Title();
     out_ << app_.cGamePlay.Title() << "\n";
@@ -191,6 +197,17 @@ CommandError ScriptRunner::Drag(const std::vector<std::string>& w, bool toPile) 
   int x = 0, y = 0;
   if (!ToInt(w[4], x) || !ToInt(w[5], y)) return Usage("X and Y are whole twips");
   DragCardTo(app_, pic, x, y);
+  return {};
+}
+
+CommandError ScriptRunner::Player(const std::vector<std::string>& w) {
+  if (w.size() != 2) return Usage("player takes a name");
+  bool listed = false;
+  for (int p = 1; p <= PlayerCount(app_.cRegistry); ++p) listed |= GetPlayer(app_.cRegistry, p) == w[1];
+  if (!listed)
+    if (const std::string refused = AddPlayer(app_, w[1]); !refused.empty()) return {kFileError, refused};
+  SetCurPlayer(app_.cRegistry, w[1]);
+  app_.cGamePlay.Update_Title();
   return {};
 }
 

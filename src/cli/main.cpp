@@ -6,10 +6,12 @@
 
 #include "CliSurface.h"
 #include "Script.h"
+#include "ScoreCommands.h"
 #include "StateJson.h"
 #include "lists/AutoSave.h"
 #include "lists/Pending.h"
 #include "lists/Recent.h"
+#include "scores/Finish.h"
 #include "session/Program.h"
 #include "session/StartUp.h"
 #include "settings/IniSettingsStore.h"
@@ -33,7 +35,24 @@ Commands:
   recent N           A recent list as the File menu shows it, a JSON array in slot order:
                      0 played, 1 saved, 2 opened. A saved game that no longer reads, or
                      a game no longer in the game list, is left out.
+  scores [--player P] Every game of the score files (or of one player's) as JSON, players
+                     in slot order, each player's oldest first; lines that do not read
+                     are named on standard error and left out.
+  top [--game G] [--player P] [--won] [--by score|time|moves]
+                     The top 20 as the High Score window lists them (by time or moves:
+                     won games of everyone, lowest first).
+  gamestat [--now DATE]
+                     Game Statistics as JSON: the summary, games, players and periods.
+  log [--player P] [--game G] [--date t|3d|7d|30d|3m|5m] [--now DATE]
+                     Log Statistics as JSON, filtered as the window filters.
+  players [add N | rename OLD NEW | delete N | select N]
+                     The players and the current one; a change the Players window
+                     refuses is refused with its message and exit status 1.
+  export [FILE]      The statistics report to FILE, or to standard output.
   --help             Show this text.
+
+DATE is a date as the score files hold it, such as 11/17/2026 (default: today).
+Score files: "$XDG_DATA_HOME/Velmarin Works/Quorvale 6.0<player>.sre".
 
 deal, replay and the lists only look: they write no setting and no file.
 
@@ -52,9 +71,13 @@ table, reads and writes your settings as the program does, and runs:
   save PATH | open PATH    (a finished game is replayed to its end at once)
   show                     print the state as JSON
   title                    print the window title
+  player NAME              play as NAME from now on (a new name is added)
+  session                  print this run's ended games and their totals as JSON
   exit                     stop as the program stops (may keep the unfinished game)
 Places: CELL 0 tableau, 1 stock, 3 foundation; PILE and POS count from 0.
 A move the rules refuse, or a command that would be greyed, does nothing.
+A won game is recorded as the window records it, and "Congrats" closes as by "Close"
+(keeping the game in the saved-games folder when "Save this Game" is on).
 
 Exit status: 0 done, 1 a file that cannot be read or written, 2 a usage error.
 Settings: $XDG_CONFIG_HOME/Quorvale/6.0/quorvale.ini. Files: $XDG_DATA_HOME and the
@@ -116,6 +139,18 @@ int List(const std::vector<std::string>& args) {
   return qv::kOk;
 }
 
+int Scores(const std::vector<std::string>& args) {
+  qv::IniSettingsStore file(qv::IniSettingsStore::DefaultPath());
+  // Only the players' commands change settings; the others only look.
+  qv::OverlaySettingsStore overlay(file);
+  qv::ISettingsStore& settings = args[0] == "players" ? static_cast<qv::ISettingsStore&>(file) : overlay;
+  Headless h;
+  qv::Program app(h.Surface(), settings, qv::PlatformFolders::FromEnvironment());
+  const int status = qv::ScoreCommand(app, args);
+  h.dialogs.Flush();
+  return status;
+}
+
 int RunScript(const std::vector<std::string>& args) {
   std::ifstream file;
   if (args.size() == 2) {
@@ -126,6 +161,7 @@ int RunScript(const std::vector<std::string>& args) {
   Headless h;
   qv::Program app(h.Surface(), settings, qv::PlatformFolders::FromEnvironment());
   qv::StartUp(app);
+  h.window.onFinish = [&app] { qv::CloseFinish(app, qv::FinishSavePath(app)); };
   qv::ScriptRunner runner(app, h.dialogs, std::cout);
   return runner.Run(args.size() == 2 ? static_cast<std::istream&>(file) : std::cin);
 }
@@ -144,5 +180,6 @@ int main(int argc, char** argv) {
   if (args[0] == "run" && args.size() <= 2) return RunScript(args);
   if ((args[0] == "autosave-list" || args[0] == "pending-list") && args.size() == 1) return List(args);
   if (args[0] == "recent" && args.size() == 2) return List(args);
+  if (qv::IsScoreCommand(args[0])) return Scores(args);
   return Fail(qv::kUsageError, "unknown command or wrong arguments; see quorvale-cli --help");
 }

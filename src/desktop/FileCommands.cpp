@@ -26,7 +26,10 @@ QString AskWithFileDialog(QWidget* parent, const FileRequest& request) {
   QFileDialog dialog(parent, request.caption, request.folder);
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setAcceptMode(request.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-  dialog.setFileMode(request.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setFileMode(request.chooseFolder ? QFileDialog::Directory
+                     : request.save  ? QFileDialog::AnyFile
+                                     : QFileDialog::ExistingFile);
+  if (request.chooseFolder) dialog.setOption(QFileDialog::ShowDirsOnly);
   dialog.setNameFilters(request.filters);
   dialog.setDefaultSuffix(request.defaultSuffix);
   if (!request.fileName.isEmpty()) dialog.selectFile(request.fileName);

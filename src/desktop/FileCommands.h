@@ -20,6 +20,7 @@ struct FileRequest {
   QString fileName;  // a save's proposal; none for an open
   QStringList filters;
   QString defaultSuffix;
+  bool chooseFolder = false;  // a folder is chosen, not a file
 };
 // The chosen path, or an empty text for Cancel.
 using FileChooser = std::function<QString(QWidget* parent, const FileRequest&)>;

@@ -1,5 +1,7 @@
 #include "MainWindow.h"
 
+#include "FinishDialog.h"
+
 #include <QCloseEvent>
 #include <algorithm>
 #include <QMenuBar>
@@ -206,6 +208,14 @@ void MainWindow::SetStopEnabled(bool enabled) {
 }
 
 void MainWindow::OpenWindow(const std::string& key) { windowOpener(QString::fromStdString(key)); }
+
+void MainWindow::ShowFinish() {
+  FinishDialog finish(*app_, this);
+  finish.exec();
+  // The winning move has not returned yet: the next game starts once it has.
+  if (const QString next = finish.Next(); !next.isEmpty())
+    QTimer::singleShot(0, this, [this, next] { ExecCommand(*app_, next.toStdString()); });
+}
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   // The stop cannot be refused: the game on the table is kept or ended, then all goes. One

@@ -50,7 +50,7 @@ class MainWindow : public QMainWindow, public IWindow {
   void EnableTimer(Timer t, bool on) override;
   bool TimerEnabled(Timer t) const override;
   void ShowPaused(bool paused) override;
-  void ShowFinish() override {}
+  void ShowFinish() override;
   void SetStopEnabled(bool enabled) override;
   void OpenWindow(const std::string& key) override;
   void CloseMain() override { close(); }

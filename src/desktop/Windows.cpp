@@ -12,11 +12,16 @@
 #include "AutoSaveDialog.h"
 #include "CardDeckDialog.h"
 #include "FileCommands.h"
+#include "GameStatDialog.h"
+#include "HighScoreDialog.h"
 #include "HotGamesDialog.h"
+#include "LogStatDialog.h"
 #include "CardPainter.h"
 #include "MainWindow.h"
 #include "OptionsDialog.h"
 #include "PendingDialog.h"
+#include "PlayersDialog.h"
+#include "SessionStatDialog.h"
 #include "ToolbarDialog.h"
 #include "session/Program.h"
 
@@ -85,6 +90,11 @@ void OpenProgramWindow(MainWindow& main, const QString& key) {
   else if (key == "AutoSave") AutoSaveDialog(main.app(), &main).exec();
   else if (key == "OrgPend") PendingDialog(main.app(), &main).exec();
   else if (key == "Hot") HotGamesDialog(main.app(), &main).exec();
+  else if (key == "HighScore") HighScoreDialog(main.app(), &main).exec();
+  else if (key == "LogStat") LogStatDialog(main.app(), &main).exec();
+  else if (key == "GameStat") GameStatDialog(main.app(), &main).exec();
+  else if (key == "SessionStat") SessionStatDialog(main.app(), &main).exec();
+  else if (key == "Players") PlayersDialog(main.app(), &main).exec();
 }
 
 }  // namespace qv

@@ -246,3 +246,56 @@ TEST_F(Cli, ListsShowWhatReadsAndLookingWritesNothing) {
 
 }  // namespace
 }  // namespace qv::test
+
+namespace qv::test {
+namespace {
+
+// A game of "Any Card" rules one double-click from its win, saved where the tool can open it;
+// the place of the last card on the table comes back.
+std::string AlmostWon(const std::string& path) {
+  TestProgram t;
+  PlayWithRules(t, {.HOrder = 5, .MOrder = 5});
+  if (!WinGame(t)) return "";
+  int speed = 0;
+  t->cEngine.Undo(speed);
+  t->cEngine.SavetoFile(path);
+  for (int p = 0; p < t->cGames.Piles(0); ++p)
+    if (t->cPlay.GetTop(0, p) >= 0) return "0 " + std::to_string(p) + " " + std::to_string(t->cPlay.GetTop(0, p));
+  return "";
+}
+
+TEST_F(Cli, AScriptedWinIsRecordedAndThePlayersCommandsMoveItsFile) {
+  const std::string game = scratch.File("almost.vq0");
+  const std::string last = AlmostWon(game);
+  ASSERT_FALSE(last.empty());
+  const Outcome r = Run("player Ann\nopen \"" + game + "\"\ndblclick " + last + "\nsession\nshow\n");
+  ASSERT_EQ(r.status, 0) << r.err;
+  const auto lines = r.out.substr(0, r.out.find('\n') + 1);
+  const Json session = Parse(lines);
+  ASSERT_EQ(session["games"].size(), 1u);
+  EXPECT_EQ(session["games"][0]["player"].text, R"("Ann")");
+  EXPECT_EQ(session["won"].text, "1");
+  EXPECT_EQ(Parse(r.out.substr(lines.size()))["status"].text, "0");  // closed as by "Close"
+
+  const Json scores = Parse(Tool("scores").out);
+  ASSERT_EQ(scores.size(), 1u);
+  EXPECT_EQ(scores[0]["game"].text, R"("Test Rules")");
+  EXPECT_EQ(scores[0]["won"].text, "1");
+  EXPECT_EQ(Parse(Tool("top --by moves").out).size(), 1u);
+  EXPECT_EQ(Parse(Tool("top --player Player1").out).size(), 0u);
+  EXPECT_EQ(Parse(Tool("log --date t --now 1/1/2000").out).size(), 0u);  // a game in the future
+  EXPECT_EQ(Tool("log --date 2d").status, 2);
+
+  const Outcome refused = Tool("players rename Ann Player1");
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_EQ(refused.err, "quorvale-cli: Player Exists !\n");
+  const Json players = Parse(Tool("players rename Ann Bea").out);
+  EXPECT_EQ(players["current"].text, R"("Bea")");
+  EXPECT_TRUE(fs::exists(home.Path() / "data/Velmarin Works/Quorvale 6.0Bea.sre"));
+  EXPECT_EQ(Tool("players delete Bea").err, "quorvale-cli: The current player cannot be deleted.\n");
+  const Outcome report = Tool("export");
+  EXPECT_NE(report.out.find("Bea            1             1             0"), std::string::npos) << report.out;
+}
+
+}  // namespace
+}  // namespace qv::test

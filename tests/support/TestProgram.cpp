@@ -125,6 +125,39 @@ bool CompleteASet(TestProgram& t) {
   return t->cEngine.TotalGoalCards() == before + 13;
 }
 
+bool WinGame(TestProgram& t) {
+  DealRows(t, 6);
+  auto& play = t->cPlay;
+  auto height = [&](int p) { return play.GetTop(0, p) + 1; };
+  auto isAce = [&](int p, int q) { return play.Num(play.GetPicID(0, p, q)) == 0; };
+  auto shortestBut = [&](int not_) {
+    int best = not_ == 0 ? 1 : 0;
+    for (int p = 0; p < 10; ++p)
+      if (p != not_ && height(p) < height(best)) best = p;
+    return best;
+  };
+  const int shown = t.window.finishShown;
+  for (int guard = 0; guard < 3000 && t.window.finishShown == shown; ++guard) {
+    bool open = false;
+    for (int f = 0; f < 8; ++f) open |= play.GetTop(3, f) >= 0 && play.GetTop(3, f) < 12;
+    // An open foundation takes any top card but an Ace; otherwise an Ace opens the next.
+    int pick = -1;
+    for (int p = 0; p < 10 && pick < 0; ++p)
+      if (height(p) > 0 && isAce(p, height(p) - 1) != open) pick = p;
+    if (pick >= 0) {
+      DoubleClickCard(*t.app, play.GetTopPicID(0, pick));
+      continue;
+    }
+    int from = -1;
+    for (int p = 0, depth = 1000; p < 10; ++p)
+      for (int q = 0; q < height(p); ++q)
+        if (isAce(p, q) && height(p) - 1 - q < depth) from = p, depth = height(p) - 1 - q;
+    if (from < 0) return false;
+    DragCardToPile(*t.app, play.GetTopPicID(0, from), shortestBut(from));
+  }
+  return t.window.finishShown == shown + 1;
+}
+
 std::vector<int> Snapshot(const Program& app) {
   std::vector<int> out;
   const Table& table = app.cPlay.table();

@@ -83,6 +83,9 @@ bool MakeAnyLegalMove(TestProgram& t);
 // Under "Any Card" rules (any thirteen cards with an Ace on top are a set), gathers twelve
 // cards on one pile and lays an Ace on it, so a set leaves; false if no Ace could be found.
 bool CompleteASet(TestProgram& t);
+// Under "Any Card" rules, deals the Stock and wins by double-clicks, opening one foundation
+// at a time and moving cards off the nearest Ace when nothing fits; false if it got stuck.
+bool WinGame(TestProgram& t);
 // Where every card lies, with its face: two tables are equal when these are.
 std::vector<int> Snapshot(const Program& app);
 

@@ -13,6 +13,8 @@ void GameKeeper::Tick() {
   const cGamePlay& gp = app_.cGamePlay;
   if (!gp.IsPending() && !app_.session.Held()) return;  // the unfinished game is another program's
   if (gp.Game_Status() != 1 || app_.motion.state() != Motion::State::Still || app_.drag.Dragging) return;
+  // A won game is recorded and must not come back.
+  if (app_.cEngine.TotalGoalCards() == app_.cGames.TotalCards()) return;
   const int revision = app_.cEngine.Revision();
   const int64_t now = app_.surface.clock.Millis();
   if (revision == written_ || now - lastWriteMs_ < kWriteGapMs) return;

@@ -10,6 +10,7 @@ Program::Program(Surface s, ISettingsStore& st, PlatformFolders f)
       store(st),
       cData(*this),
       cGames(*this),
+      cScore(*this),
       cEngine(*this),
       cRegistry(st),
       cFunc(cRegistry),

@@ -6,6 +6,7 @@
 #include "lists/GameNumbers.h"
 #include "lists/Pending.h"
 #include "lists/Recent.h"
+#include "scores/Finish.h"
 #include "scores/Players.h"
 #include "scores/ScoreText.h"
 #include "session/Program.h"
@@ -125,6 +126,11 @@ bool cGamePlay::PlayPendFile(const std::string& fName) {
 }
 
 bool cGamePlay::EndGame(int Win, bool bTerminate) {
+  // A won game has been recorded already; what is left is to clear the table.
+  if (won_) {
+    if (!bTerminate) ClearArea();
+    return true;
+  }
   if (loadingType_ != kPendingGame) {
     app_.cScore.AddScore(0);
     if (!bTerminate) app_.cScore.AddSesGame(Win);
@@ -140,6 +146,7 @@ void cGamePlay::ClearArea() {
   app_.keeper.Forget();
   app_.surface.window.EnableTimer(Timer::Game, false);
   running_ = false;
+  won_ = false;
   status_ = 0;
   pendFile_.clear();
   app_.cPlay.ClearAll();
@@ -149,7 +156,7 @@ void cGamePlay::Unload() {
   // Each game is given its place before the mark that points elsewhere is cleared: a stop
   // cut short in between leaves a game in two places at worst, never in none.
   const bool keepsSession = app_.session.Held();
-  if (status_ == 1 && loadingType_ != kPendingGame && app_.cRegistry.Get(setting::GameSave) == 1) {
+  if (status_ == 1 && !won_ && loadingType_ != kPendingGame && app_.cRegistry.Get(setting::GameSave) == 1) {
     // Beside the program that keeps the unfinished game, this one's waits as a copy.
     if (!keepsSession) {
       AutoSaveGame(app_, false, true);
@@ -220,7 +227,10 @@ void cGamePlay::TickGame() {
 }
 
 void cGamePlay::CheckEndOfGame() {
-  if (app_.cEngine.TotalGoalCards() == app_.cGames.TotalCards()) app_.surface.window.ShowFinish();
+  if (won_ || app_.cEngine.TotalGoalCards() != app_.cGames.TotalCards()) return;
+  won_ = true;
+  RecordWin(app_);
+  app_.surface.window.ShowFinish();
 }
 
 }  // namespace qv

@@ -66,8 +66,11 @@ class cGamePlay {
 
   // One second of the game clock (the tick of the game timer).
   void TickGame();
-  // After every move of a running game: all cards on the foundations opens the finish.
+  // After every move of a running game: all cards on the foundations records the win and
+  // opens the finish, once.
   void CheckEndOfGame();
+  // All cards are home and the win is recorded; the table waits for the finish to close.
+  bool Won() const { return won_; }
 
  private:
   std::optional<SavedGame> ReadPlayable(const std::string& fName);
@@ -85,6 +88,7 @@ class cGamePlay {
   int loadingType_ = 0;
   std::string pendFile_;
   int status_ = 0;
+  bool won_ = false;
 };
 
 }  // namespace qv

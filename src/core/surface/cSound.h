@@ -19,6 +19,12 @@ class cSound {
   void AutoSave() {}
   void OrgPend() {}
   void Hot() {}
+  void Win() {}
+  void HighScore() {}
+  void LogStat() {}
+  void GameStat() {}
+  void SessionStat() {}
+  void Players() {}
 };
 
 }  // namespace qv

@@ -1,0 +1,294 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "TestProgram.h"
+#include "lists/Pending.h"
+#include "lists/Recent.h"
+#include "scores/Finish.h"
+#include "scores/PlayerEdit.h"
+#include "scores/Players.h"
+#include "scores/StatFigures.h"
+#include "session/StartUp.h"
+#include "settings/SettingKeys.h"
+
+namespace qv {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A store of two players, fixed lines and a clock in UTC.
+struct Store : ::testing::Test {
+  void SetUp() override {
+    setenv("TZ", "UTC", 1);
+    tzset();
+    SetPlayer(t->cRegistry, 1, "Player1", true);
+    SetPlayer(t->cRegistry, 2, "Ann", false);
+  }
+  void Lines(const std::string& player, const std::string& text) {
+    test::WriteFile(t->cScore.ScoreFile(player, FolderUse::Write), text);
+  }
+  ScoreRec Rec(int32_t score, int16_t won, int32_t time = 10, int32_t moves = 10) {
+    ScoreRec r;
+    r.Date = "11/17/2026";
+    r.GameName = "Spider";
+    r.GameNo = GameNo::Number(uint64_t(score + 1000));
+    r.Score = score, r.Won = won, r.Time = time, r.Moves = moves;
+    return r;
+  }
+  test::TestProgram t;
+};
+
+TEST_F(Store, LinesKeepTheirFormAndBrokenOnesAreSkippedAlone) {
+  const std::string good = "\"11/17/2026 6:41:26 AM\",\"Spider\",123456,754,212,683,1";
+  const std::string typed = "\"11/18/2026 9:05:00 PM\",\"Spider Two Suit\",\"000123\",100,50,-7,0";
+  auto r = ReadScoreLine(good);
+  ASSERT_TRUE(r);
+  EXPECT_EQ(ScoreLine(*r), good + "\r\n");
+  EXPECT_EQ(ScoreLine(*ReadScoreLine(typed)), typed + "\r\n");
+  EXPECT_EQ(r->Day, (CivilDate{2026, 11, 17}));
+  const auto quoted = ReadScoreLine("\"1/2/2026\",\"Spider, Plus\",\"12.5\",1,2,3,0");
+  ASSERT_TRUE(quoted);
+  EXPECT_EQ(quoted->GameName, "Spider, Plus");
+  EXPECT_EQ(quoted->GameNo, GameNo::Typed("12.5"));
+  for (const char* bad : {"\"1/2/2026\",\"Spider\",1,2,3,4", "\"1/2/2026\",\"Spider\",1,2,3,4294967296,1",
+                          "\"2/30/2026\",\"Spider\",1,2,3,4,1", "\"1/2/2026 25:00:00\",\"Spider\",1,2,3,4,1",
+                          "\"1/2/2026\",\"Spider\",1,2,3,4,1,9", "1/2/2026,\"Spider\",1,2,3,4,1"})
+    EXPECT_FALSE(ReadScoreLine(bad)) << bad;
+
+  // A file with bad lines, a Windows-1252 name and no last line end: the good lines count.
+  Lines("Player1", good + "\r\ngarbage\r\n\"1/2/2026\",\"Caf\xe9\",5,1,2,3,0\r\n" + typed);
+  auto& s = t->cScore;
+  s.OpenAllScore();
+  ASSERT_EQ(s.ScoreTop(), 3);
+  EXPECT_EQ(s.ScoreItem(2).GameName, "Caf\u00e9");
+  EXPECT_EQ(s.ScoreItem(3).Player, "Player1");
+  EXPECT_EQ(s.Skipped().size(), 1u);
+  EXPECT_EQ(s.AllTotals().Score, 683 + 3 - 7);
+
+  // The next game ends the cut line first; the file is beside the data folder.
+  t.Deal("Spider", 42);
+  t->cScore.AddScore(0);
+  const std::string path = t->cData.AppDir() + "Player1.sre";
+  EXPECT_EQ(fs::path(path).filename(), "Quorvale 6.0Player1.sre");
+  const std::string text = test::ReadFile(path);
+  EXPECT_NE(text.find(typed + "\r\n\"11/18/2026 11:06:40 AM\",\"Spider\",42,0,0,0,0\r\n"), std::string::npos);
+}
+
+TEST_F(Store, SortTakesTheLaterOfEqualsAndFinSortKeepsZeroOutOfFreeSlots) {
+  auto& s = t->cScore;
+  std::string lines;
+  for (int i = 0; i < 21; ++i) lines += ScoreLine(Rec(50, 1, i + 1));
+  lines += ScoreLine(Rec(0, 1)) + ScoreLine(Rec(-5, 1));
+  Lines("Player1", lines);
+  Lines("Ann", ScoreLine(Rec(60, 0, 0)) + ScoreLine(Rec(40, 1, 0, 3)));
+  s.OpenAllScore();
+  s.Sort("", "", 1);
+  EXPECT_EQ(s.TopItem(1).Time, 21);  // the last of 21 equal scores on top
+  EXPECT_EQ(s.TopItem(20).Time, 2);  // and the first fell out
+  s.Sort("", "Ann", 0);
+  EXPECT_EQ(s.TopItem(1).Score, 60);
+  EXPECT_EQ(s.TopItem(2).Score, 40);
+  EXPECT_TRUE(s.TopItem(3).Date.empty());
+  s.Sort("Spider", "", 0);
+  EXPECT_EQ(s.TopItem(1).Score, 60);
+  // By time: Ann's won game of 0 s goes ahead of the filled slots; on an empty list it would not.
+  s.FinSort(true, false);
+  EXPECT_EQ(s.TopItem(1).Time, 0);
+  EXPECT_EQ(s.TopItem(2).Time, 1);
+  s.FinSort(false, true);
+  EXPECT_EQ(s.TopItem(1).Moves, 3);
+  Lines("Player1", ScoreLine(Rec(5, 1, 0)) + ScoreLine(Rec(5, 1, 9)));
+  Lines("Ann", "");
+  s.OpenAllScore();
+  s.FinSort(true, false);
+  EXPECT_EQ(s.TopItem(1).Time, 9);
+  EXPECT_TRUE(s.TopItem(2).Date.empty());
+  s.CloseScore();
+  EXPECT_EQ(s.ScoreTop(), 0);
+}
+
+TEST(ScoreDates, CalendarDifferencesAndLabels) {
+  const CivilDate today{2026, 11, 7};
+  ScoreRec r;
+  auto keeps = [&](CivilDate d, const char* key) {
+    r.Day = d;
+    return LogKeeps(r, key, today);
+  };
+  EXPECT_TRUE(keeps({2026, 11, 6}, "3d"));
+  EXPECT_FALSE(keeps({2026, 11, 6}, "t"));  // 23:59 yesterday is a day old at 00:01
+  EXPECT_TRUE(keeps({2026, 10, 31}, "7d"));
+  EXPECT_FALSE(keeps({2026, 10, 30}, "7d"));
+  EXPECT_TRUE(keeps({2026, 6, 30}, "5m"));  // months count by month
+  EXPECT_FALSE(keeps({2026, 5, 31}, "5m"));
+  EXPECT_FALSE(keeps({2026, 11, 8}, "30d"));  // the future shows only under all
+  EXPECT_TRUE(keeps({2026, 11, 8}, ""));
+  EXPECT_EQ(MonthsBack({2026, 3, 31}, 1), (CivilDate{2026, 2, 28}));
+  EXPECT_EQ(MonthsBack({2024, 3, 31}, 1), (CivilDate{2024, 2, 29}));
+  EXPECT_EQ(MonthsBack({2026, 1, 15}, 13), (CivilDate{2024, 12, 15}));
+  EXPECT_EQ(DaysBack({2026, 3, 1}, 1), (CivilDate{2026, 2, 28}));
+  EXPECT_EQ(PeriodLabel(today, "d"), "Nov 07");
+  EXPECT_EQ(PeriodLabel({2009, 1, 3}, "m"), "Jan 09");
+  EXPECT_EQ(PeriodLabel(today, "yyyy"), "2026");
+  EXPECT_EQ(ShortDate(today), "11/7/2026");
+  EXPECT_EQ(ReadGeneralDate("12/31/2026 12:00:00 AM"), (CivilDate{2026, 12, 31}));
+}
+
+TEST_F(Store, FiguresCutTowardZeroAndRoundExactTies) {
+  TotalsRec t2{.Played = 2, .Won = 0, .Lost = 2, .Score = -7, .Moves = 13, .Time = 3};
+  const auto rows = GeneralRows(t2);
+  ASSERT_EQ(rows.size(), 13u);
+  EXPECT_EQ(rows[7].second, "-3");     // score per game
+  EXPECT_EQ(rows[8].second, "0:00:02");  // 1.5 s: to the even second
+  EXPECT_EQ(rows[10].second, "15600");  // moves per hour
+  EXPECT_EQ(rows[11].second, "-8400");
+  EXPECT_EQ(GeneralRows({})[12].second, "0%");
+  EXPECT_EQ(GamePercent({.Played = 3, .Won = 2}), "66.67%");
+  EXPECT_EQ(PlayerPercent({.Played = 3, .Won = 2}), "67%");
+  EXPECT_EQ(PlayerPercent({.Played = 8, .Won = 1}), "12%");
+  EXPECT_EQ(PlayerPercent({.Played = 40, .Won = 1}), "2%");
+  EXPECT_EQ(GamePercent({.Played = 32, .Won = 1}), "3.12%");
+  EXPECT_EQ(GamePercent({.Played = 8, .Won = 1}), "12.5%");
+  EXPECT_EQ(GamePercent({.Played = 200, .Won = 1}), "0.5%");
+
+  // Periods: a whole day, month or year each, oldest first.
+  Lines("Player1", "\"11/18/2026 11:59:59 PM\",\"Spider\",1,10,2,5,1\r\n\"11/17/2026\",\"Spider\",2,10,2,7,0\r\n"
+                   "\"10/31/2026\",\"Spider\",3,10,2,9,1\r\n");
+  t->cScore.OpenAllScore();
+  const auto days = PeriodRows(t->cScore, PeriodItems()[0], {2026, 11, 18});
+  ASSERT_EQ(days.size(), 5u);
+  EXPECT_EQ(days[4].Label, "Nov 18");
+  EXPECT_EQ(days[4].Played, 1);
+  EXPECT_EQ(days[3].Score, 7);
+  const auto months = PeriodRows(t->cScore, PeriodItems()[3], {2026, 11, 18});
+  EXPECT_EQ(months[3].Label, "Oct 26");
+  EXPECT_EQ(months[3].Won, 1);
+  EXPECT_EQ(months[4].Played, 2);
+  EXPECT_EQ(t->cScore.PeriodTotals("11/17/2026 1:00:00 PM", "yyyy").Played, 3);
+}
+
+TEST_F(Store, TheReportIsByteForByte) {
+  Lines("Player1", "\"11/17/2026 6:41:26 AM\",\"Spider\",123456,754,212,683,1\r\n"
+                   "\"11/18/2026 9:05:00 PM\",\"Spider Two Suit\",\"000123\",100,50,-7,0\r\n");
+  Lines("Ann", "\"1/2/2026\",\"Spider Single Suit\",-5,30,5,1,0\r\nbroken\r\n");
+  t.dialogs.answers = {};
+  const std::string path = t.home.File("Scoreboard.txt");
+  ASSERT_TRUE(t->cScore.ExportStat(path));
+  EXPECT_EQ(t.dialogs.shown.back(), "Statistics Successfully Exported to " + path);
+  EXPECT_EQ(t->cScore.ScoreTop(), 0);
+  const std::string expected =
+      "Quorvale 6.0 Score Board\r\n"
+      " \r\n*************************\r\n \r\n"
+      "Created By    Player1\r\n"
+      "Created Date  11/18/2026 11:06:40 AM\r\n"
+      " \r\n----------------------------------\r\n \r\n"
+      "General Statistics\r\n------------------\r\n"
+      "Played        Won           Lost          Time          Moves         Score\r\n"
+      " 3             1             2            0:14:44        267           677 \r\n"
+      " \r\n \r\n"
+      "Player Statistics\r\n-----------------\r\n"
+      "Player        Played        Won           Lost          Time          Moves         Score\r\n"
+      "Player1        2             1             1            0:14:14        262           676 \r\n"
+      "Ann            1             0             1            0:00:30        5             1 \r\n"
+      " \r\n \r\n"
+      "Games Statistics\r\n----------------\r\n"
+      "Game                     Played           Won           Time          Moves         Score\r\n"
+      "Spider                    1                1            0:12:34        212           683 \r\n"
+      "Spider Single Suit        1                0            0:00:30        5             1 \r\n"
+      "Spider Two Suit           1                0            0:01:40        50           -7 \r\n"
+      "Scarab                    0                0            0:00:00        0             0 \r\n"
+      "Plaza                     0                0            0:00:00        0             0 \r\n"
+      "Coral                     0                0            0:00:00        0             0 \r\n"
+      "Spider Plus               0                0            0:00:00        0             0 \r\n"
+      " \r\n \r\n"
+      "Full Statistics\r\n--------------\r\n"
+      "Date          Game          Player        Status        Score         Moves         Time          Game No\r\n"
+      "11/17/2026    Spider        Player1       Won            683           212          0:12:34      123456 \r\n"
+      "11/18/2026    Spider Two S  Player1       Lost          -7             50           0:01:40     000123\r\n"
+      "1/2/2026      Spider Singl  Ann           Lost           1             5            0:00:30     -5 \r\n";
+  EXPECT_EQ(test::ReadFile(path), expected);
+}
+
+TEST_F(Store, PlayersKeepTheirSlotsAndTheirFiles) {
+  auto& app = *t.app;
+  Lines("Ann", "\"1/2/2026\",\"Spider\",5,1,2,3,0\r\n");
+  EXPECT_EQ(AddPlayer(app, ""), "Please Enter a Valid Name");
+  EXPECT_EQ(AddPlayer(app, "a/b"), "Please Enter a Valid Name");
+  EXPECT_EQ(AddPlayer(app, "Ann"), "Player Exists !");
+  EXPECT_EQ(AddPlayer(app, "ann"), "");  // names compare with case
+  EXPECT_EQ(RenamePlayer(app, "Ann", "Ann"), "Player Exists !");
+  EXPECT_EQ(RenamePlayer(app, "Player1", "Bo"), "");
+  EXPECT_EQ(GetCurPlayer(app.cRegistry), "Bo");  // the current player stays current
+  EXPECT_EQ(RenamePlayer(app, "Ann", "Cy"), "");
+  EXPECT_FALSE(fs::exists(t->cScore.ScoreFile("Ann")));
+  EXPECT_EQ(test::ReadFile(t->cScore.ScoreFile("Cy")), "\"1/2/2026\",\"Spider\",5,1,2,3,0\r\n");
+  // A rename onto a name whose file is still there adds the games to it.
+  Lines("Dee", "\"1/3/2026\",\"Spider\",6,1,2,3,0\r\n");
+  EXPECT_EQ(RenamePlayer(app, "Cy", "Dee"), "");
+  t->cScore.OpenAllScore();
+  EXPECT_EQ(t->cScore.ScoreTop(), 2);
+  EXPECT_EQ(DeletePlayer(app, "Bo"), "The current player cannot be deleted.");
+  EXPECT_EQ(DeletePlayer(app, "Dee"), "");
+  EXPECT_FALSE(fs::exists(t->cScore.ScoreFile("Dee")));
+  EXPECT_EQ(GetPlayer(app.cRegistry, 2), "ann");  // slot 3 moved up
+  EXPECT_EQ(PlayerCount(app.cRegistry), 2);
+  for (int i = 3; i <= 20; ++i) AddPlayer(app, "P" + std::to_string(i));
+  EXPECT_EQ(AddPlayer(app, "P21"), "Maximum 20 Players Only!");
+}
+
+TEST_F(Store, AWinIsRecordedBeforeTheFinishShowsAndItsCloseKeepsTheGame) {
+  StartUp(*t.app);
+  t->cRegistry.Set(setting::SaveFile, 1);
+  test::PlayWithRules(t, {.HOrder = 5, .MOrder = 5});
+  int32_t timeAtWin = -1;
+  size_t linesAtWin = 0;
+  t.window.onFinish = [&] {
+    timeAtWin = t->cGamePlay.Time();
+    linesAtWin = test::ReadFile(t->cScore.ScoreFile("Player1")).size();
+    EXPECT_FALSE(t.window.TimerEnabled(Timer::Game));
+    EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
+  };
+  ASSERT_TRUE(test::WinGame(t));
+  EXPECT_EQ(t.window.finishShown, 1);
+  t.clock.ms += 5000;
+  t->keeper.Tick();  // a won table is never written again
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
+  CloseFinish(*t.app, FinishSavePath(*t.app));
+  EXPECT_GT(linesAtWin, 0u);
+  EXPECT_EQ(t->cGamePlay.Game_Status(), 0);
+  EXPECT_EQ(t->cScore.SesTop(), 1);
+  EXPECT_EQ(t->cScore.SesItem(1).Won, 1);
+  t->cScore.OpenAllScore();
+  ASSERT_EQ(t->cScore.ScoreTop(), 1);
+  EXPECT_EQ(t->cScore.ScoreItem(1).Time, timeAtWin);
+  const std::string saved = t->cData.SavedFolder() + "/Test Rules-1.vq1";
+  EXPECT_TRUE(fs::exists(saved));
+  EXPECT_EQ(RecentMenuEntries(*t.app, kRecentSaved).at(0), saved);
+  // The stop that follows leaves nothing to come back.
+  ShutDown(*t.app);
+  EXPECT_EQ(t->cScore.SesTop(), 1);
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
+}
+
+TEST_F(Store, AWonPendingGameLeavesTheListForGood) {
+  test::PlayWithRules(t, {.HOrder = 5, .MOrder = 5});
+  MoveToPending(*t.app);
+  ASSERT_EQ(GetPendingFiles(*t.app).size(), 1u);
+  const std::string pending = GetPendingFiles(*t.app)[0];
+  ASSERT_TRUE(t->cGamePlay.PlayPendFile(pending));
+  std::vector<std::string> menuAtWin;
+  t.window.onFinish = [&] {
+    for (const auto& e : PendingMenuEntries(*t.app)) menuAtWin.push_back(e.caption);
+    CloseFinish(*t.app, "");
+  };
+  ASSERT_TRUE(test::WinGame(t));
+  EXPECT_TRUE(menuAtWin.empty());
+  EXPECT_FALSE(fs::exists(pending));
+  EXPECT_TRUE(PendingMenuEntries(*t.app).empty());
+  t->cScore.OpenAllScore();
+  EXPECT_EQ(t->cScore.ScoreTop(), 1);
+}
+
+}  // namespace
+}  // namespace qv
