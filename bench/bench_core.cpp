@@ -1,11 +1,15 @@
 // Timings of the core on the recording surface: the deal, a move with its undo and redo,
-// loading and replaying a long saved game, walking its journal and saving it.
+// loading and replaying a long saved game, walking its journal and saving it; the lists
+// of saved games; reading and writing the settings file.
 // Every benchmark builds its table before the timed loop and checks afterwards that the
 // table ended where it should, so a figure never comes from work that went wrong.
 
 #include <benchmark/benchmark.h>
 
 #include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -13,7 +17,25 @@
 #include "engine/Pointer.h"
 #include "lists/AutoSave.h"
 #include "lists/Pending.h"
+#include "session/AtomicFile.h"
 #include "session/SavedGameFile.h"
+#include "settings/IniSettingsStore.h"
+#include "settings/cRegistry.h"
+
+namespace {
+// Allocations made by this thread, so a benchmark can show that its loop makes none.
+thread_local size_t tAllocations = 0;
+}  // namespace
+
+// Kept out of line, with the deletes: inlined into a caller, GCC 12 pairs the malloc()
+// or free() it sees with the other side's operator and warns of a mismatch.
+[[gnu::noinline]] void* operator new(std::size_t size) {
+  ++tAllocations;
+  if (void* p = std::malloc(size ? size : 1)) return p;
+  throw std::bad_alloc();
+}
+[[gnu::noinline]] void operator delete(void* p) noexcept { std::free(p); }
+[[gnu::noinline]] void operator delete(void* p, std::size_t) noexcept { std::free(p); }
 
 namespace qv {
 namespace {
@@ -281,6 +303,82 @@ void BM_PendingMenu100(benchmark::State& state) {
   if (entries != 100) state.SkipWithError("not every pending game was listed");
 }
 BENCHMARK(BM_PendingMenu100)->Unit(benchmark::kMillisecond);
+
+// A settings file as a program used for a while leaves it: 103 keys in 12 sections, 1.9 KB.
+std::string LivedInSettings() {
+  std::string text = "[General]\r\nUnFin=0\r\nSaveInitDir=\"/home/user/Documents/My Games/Quorvale 6.0\"\r\n"
+                     "LastGName=\"Spider Two Suit\"\r\n\r\n[Options]\r\n";
+  for (const char* key : {"GameSave", "EnableInc", "EnableFin", "ShowTime", "ShowScore", "ShowMoves",
+                          "ShowCardsLeft", "RangeIndex", "ShowToolbar", "AutoPlay"})
+    text += std::string(key) + "=1\r\n";
+  for (const char* section : {"BackGround", "Animation", "Finish", "Toolbar", "HotGames"}) {
+    text += std::string("\r\n[") + section + "]\r\n";
+    for (int i = 1; i <= 8; ++i) text += "Key" + std::to_string(i) + "=" + std::to_string(i) + "\r\n";
+  }
+  for (const char* section : {"Players", "MRU0", "MRU1", "MRU2", "LIST0"}) {
+    text += std::string("\r\n[") + section + "]\r\n";
+    for (int i = 1; i <= 10; ++i) text += std::to_string(i) + "=\"Spider Game - " + std::to_string(1000 + i) + "\"\r\n";
+  }
+  return text;
+}
+
+// One iteration: what the window's ten-a-second command update reads, AutoPlay through
+// cRegistry, from an unchanged settings file: the stat and the lookup. Any allocation in
+// the loop is reported as an error.
+void BM_SettingsReadUnchanged(benchmark::State& state) {
+  test::TempHome home;
+  const auto file = home.Path() / "quorvale.ini";
+  if (!WriteFileAtomically(file, LivedInSettings())) return state.SkipWithError("cannot write the settings");
+  IniSettingsStore store(file);
+  const cRegistry reg(store);
+  int16_t value = 0;
+  reg.Get(setting::AutoPlay);  // the first read after the store's own look
+  const size_t before = tAllocations;
+  for (auto _ : state) {
+    value = reg.Get(setting::AutoPlay);
+    benchmark::DoNotOptimize(value);
+  }
+  const size_t allocations = tAllocations - before;
+  state.counters["allocs"] = benchmark::Counter(static_cast<double>(allocations), benchmark::Counter::kAvgIterations);
+  if (allocations != 0) state.SkipWithError("a read of an unchanged file allocated");
+  else if (value != 1) state.SkipWithError("AutoPlay did not read as 1");
+}
+BENCHMARK(BM_SettingsReadUnchanged);
+
+// One iteration: the same read just after another program changed the file in place (not
+// timed), so the read looks, sees the change and reads the whole file again.
+void BM_SettingsReadChanged(benchmark::State& state) {
+  test::TempHome home;
+  const auto file = home.Path() / "quorvale.ini";
+  const std::string text = LivedInSettings();
+  if (!WriteFileAtomically(file, text)) return state.SkipWithError("cannot write the settings");
+  IniSettingsStore store(file);
+  const cRegistry reg(store);
+  int16_t value = 0;
+  bool longer = false;
+  TimeOnly(state, [&] { std::ofstream(file, std::ios::binary) << text << ((longer = !longer) ? " " : ""); },
+           [&] { value = reg.Get(setting::AutoPlay); });
+  if (value != 1) state.SkipWithError("AutoPlay did not read as 1");
+}
+BENCHMARK(BM_SettingsReadChanged)->UseManualTime()->Unit(benchmark::kMicrosecond);
+
+// One iteration: a setting written, as the Options dialog does: the lock, the file read
+// afresh, one key changed and the file replaced (with fsync of the file and its folder).
+void BM_SettingsWrite(benchmark::State& state) {
+  test::TempHome home;
+  const auto file = home.Path() / "quorvale.ini";
+  if (!WriteFileAtomically(file, LivedInSettings())) return state.SkipWithError("cannot write the settings");
+  IniSettingsStore store(file);
+  int32_t speed = 0;
+  for (auto _ : state) {
+    if (!store.WriteInt("Animation", "CardSpeed", ++speed % 10))
+      return state.SkipWithError(store.LastError().c_str());
+  }
+  const IniSettingsStore again(file);
+  if (again.ReadInt("Animation", "CardSpeed") != speed % 10 || again.ReadText("LIST0", "10") != "Spider Game - 1010")
+    state.SkipWithError("the file does not hold what was written");
+}
+BENCHMARK(BM_SettingsWrite)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace qv

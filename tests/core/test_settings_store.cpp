@@ -1,12 +1,19 @@
-// The settings file: what reads back, what a damaged file becomes, what a refused write keeps.
+// The settings file: what reads back, what a damaged file becomes, what a refused write keeps,
+// and how two programs share it.
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <climits>
 #include <cstdlib>
+#include <fstream>
+#include <thread>
 
 #include "TestProgram.h"
 #include "session/AtomicFile.h"
@@ -30,6 +37,19 @@ class IniSettingsTest : public ::testing::Test {
   test::TempHome home_;
   fs::path file_ = home_.Path() / "Quorvale" / "6.0" / "quorvale.ini";
 };
+
+// Whether some process or thread waits in flock() for the lock held on `file`: the kernel
+// lists a blocked request with "->" before it.
+bool SomeoneWaitsForLock(const fs::path& file) {
+  struct stat info {};
+  if (stat(file.c_str(), &info) != 0) return false;
+  const std::string inode = ":" + std::to_string(info.st_ino) + " ";
+  std::ifstream locks("/proc/locks");
+  for (std::string line; std::getline(locks, line);) {
+    if (line.find("->") != std::string::npos && line.find(inode) != std::string::npos) return true;
+  }
+  return false;
+}
 
 TEST_F(IniSettingsTest, ValuesRoundTripThroughTheFile) {
   const std::pair<std::string, int32_t> numbers[] = {{"Zero", 0}, {"Lowest", INT32_MIN}, {"Highest", INT32_MAX}};
@@ -76,7 +96,14 @@ TEST_F(IniSettingsTest, DamagedFilesKeepWhatReadWholeAndAreCopiedAsideOnce) {
   EXPECT_EQ(Disk(".bad"), cases[0].first);
   EXPECT_EQ(Disk(".bad-1"), cases[2].first);
   EXPECT_EQ(Disk(".bad-2"), cases[3].first);
-  EXPECT_FALSE(fs::exists(file_.string() + ".bad-3"));
+  // Damage written by another program after the store read a clean file is kept too.
+  IniSettingsStore store(file_);
+  const std::string garbage = "[General]\nUnFin=1\n\x01\x02 not a setting\n";
+  Put(garbage);
+  ASSERT_TRUE(store.WriteInt("General", "Other", 2));
+  EXPECT_EQ(Disk(".bad-3"), garbage);
+  EXPECT_EQ(Disk(), "[General]\r\nUnFin=1\r\nOther=2\r\n");
+  EXPECT_FALSE(fs::exists(file_.string() + ".bad-4"));
 }
 
 TEST_F(IniSettingsTest, RefusedWriteAnswersFalseAndKeepsWhatIsOnDisk) {
@@ -106,6 +133,52 @@ TEST_F(IniSettingsTest, RefusedWriteAnswersFalseAndKeepsWhatIsOnDisk) {
   ASSERT_TRUE(WriteFileAtomically(home_.Path() / "plain", "old"));
   EXPECT_FALSE(IniSettingsStore(home_.Path() / "plain" / "sub" / "quorvale.ini").WriteInt("G", "k", 1));
   EXPECT_EQ(ReadWholeFile(home_.Path() / "plain"), "old");
+}
+
+// The window and quorvale-cli run at once: each sees the other's keys at its next read,
+// and a write never drops a key the other wrote since.
+TEST_F(IniSettingsTest, TwoStoresOnOneFileKeepEachOthersKeys) {
+  IniSettingsStore a(file_);
+  IniSettingsStore b(file_);
+  ASSERT_TRUE(a.WriteInt("General", "x", 1));
+  EXPECT_EQ(a.ReadInt("General", "x"), 1);
+  ASSERT_TRUE(b.WriteText("Other", "y", "two"));
+  EXPECT_EQ(a.ReadText("Other", "y"), "two");
+  ASSERT_TRUE(a.WriteInt("General", "z", 3));
+  EXPECT_EQ(Disk(), "[General]\r\nx=1\r\nz=3\r\n\r\n[Other]\r\ny=\"two\"\r\n");
+  EXPECT_EQ(b.ReadInt("General", "z"), 3);
+  // Replaced, changed in place, removed and made again behind the store's back.
+  Put("[General]\r\nx=4\r\n");
+  EXPECT_EQ(b.ReadInt("General", "x"), 4);
+  std::ofstream(file_, std::ios::binary | std::ios::trunc) << "[General]\r\nx=55\r\n";
+  EXPECT_EQ(b.ReadInt("General", "x"), 55);
+  fs::remove(file_);
+  EXPECT_EQ(b.ReadInt("General", "x"), std::nullopt);
+  Put("[General]\r\nx=6\r\n");
+  EXPECT_EQ(b.ReadInt("General", "x"), 6);
+}
+
+// A second program in the middle of a write holds the lock: ours waits for it rather than
+// rewriting the file under it. No clock: the test waits until the kernel lists our write
+// as blocked on the lock (or the write is over, which is the fault).
+TEST_F(IniSettingsTest, AWriteWaitsWhileAnotherHoldsTheLock) {
+  ASSERT_TRUE(std::ifstream("/proc/locks")) << "the test needs /proc/locks to see a waiting write";
+  IniSettingsStore store(file_);
+  fs::create_directories(file_.parent_path());
+  const fs::path lock = file_.string() + ".lock";
+  const int held = open(lock.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, 0644);
+  ASSERT_EQ(flock(held, LOCK_EX), 0);
+  std::atomic<bool> done = false;
+  std::thread writer([&] {
+    store.WriteInt("General", "UnFin", 1);
+    done = true;
+  });
+  while (!done && !SomeoneWaitsForLock(lock)) std::this_thread::yield();
+  EXPECT_FALSE(done);
+  EXPECT_EQ(Disk(), "<missing>");
+  close(held);
+  writer.join();
+  EXPECT_EQ(Disk(), "[General]\r\nUnFin=1\r\n");
 }
 
 TEST(IniSettingsDefaultPath, IgnoresARelativeXdgConfigHome) {  // it would follow the working folder

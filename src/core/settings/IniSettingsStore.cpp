@@ -1,5 +1,11 @@
 #include "settings/IniSettingsStore.h"
 
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
 #include <charconv>
 #include <cstdlib>
 
@@ -76,9 +82,32 @@ bool KeyReadsBack(std::string_view key) {
          key.find_first_of("[;#") != 0 && IsValidUtf8(key);
 }
 
+// Holds an exclusive flock on `path` while it lives; the kernel drops it when the
+// program dies, so a crash never leaves the settings locked.
+class WriteLock {
+ public:
+  explicit WriteLock(const std::filesystem::path& path)
+      // Read-only suffices for flock and also works on a lock file another user made.
+      : fd_(open(path.c_str(), O_RDONLY | O_CREAT | O_CLOEXEC, 0644)) {
+    while (fd_ >= 0 && flock(fd_, LOCK_EX) != 0 && errno == EINTR) {
+    }
+  }
+  ~WriteLock() {
+    if (fd_ >= 0) close(fd_);
+  }
+  WriteLock(const WriteLock&) = delete;
+  WriteLock& operator=(const WriteLock&) = delete;
+
+ private:
+  int fd_;
+};
+
 }  // namespace
 
-IniSettingsStore::IniSettingsStore(std::filesystem::path path) : path_(std::move(path)) { Load(); }
+IniSettingsStore::IniSettingsStore(std::filesystem::path path)
+    : path_(std::move(path)), lockPath_(path_.string() + ".lock") {
+  Load(Look());
+}
 
 std::filesystem::path IniSettingsStore::DefaultPath() {
   std::filesystem::path base;
@@ -92,35 +121,60 @@ std::filesystem::path IniSettingsStore::DefaultPath() {
   return base / "Quorvale" / "6.0" / "quorvale.ini";
 }
 
-void IniSettingsStore::Load() {
+// stat() on the stored path allocates nothing, which keeps an unchanged read free of
+// allocation.
+IniSettingsStore::Stamp IniSettingsStore::Look() const {
+  struct stat info {};
+  if (stat(path_.c_str(), &info) != 0) return {.error = errno};
+  return {.error = 0,
+          .device = info.st_dev,
+          .inode = info.st_ino,
+          .size = info.st_size,
+          .seconds = info.st_mtim.tv_sec,
+          .nanoseconds = info.st_mtim.tv_nsec};
+}
+
+void IniSettingsStore::Refresh() const {
+  if (const Stamp now = Look(); now != seen_) Load(now);
+}
+
+// Reads the file into memory; answers false when it did not read whole. `now` is the
+// look taken before the read, so a change during the read shows at the next look.
+bool IniSettingsStore::Load(const Stamp& now) const {
+  seen_ = now;
   const std::optional<std::string> raw = ReadWholeFile(path_);
   if (!raw) {
-    // A file that is there but cannot be read must never be replaced by a write:
-    // marking it damaged makes every write first try to copy it aside.
+    // A file that is there but cannot be read (a folder, no permission) keeps what was
+    // last read, and counts as damaged so that no write replaces it uncopied.
     std::error_code ignored;
-    damaged_ = std::filesystem::status(path_, ignored).type() != std::filesystem::file_type::not_found;
-    return;
+    if (std::filesystem::status(path_, ignored).type() != std::filesystem::file_type::not_found) return false;
+    sections_.clear();
+    return true;
   }
-  const std::string text = RepairUtf8(*raw, damaged_);
+  bool damaged = false;
+  const std::string text = RepairUtf8(*raw, damaged);
   std::string_view rest = text;
   if (rest.starts_with(kBom)) rest.remove_prefix(kBom.size());
+  Sections sections;
   size_t section = kNoSection;
   while (!rest.empty()) {
     const size_t end = rest.find('\n');
     const std::string_view line = Trim(rest.substr(0, end));
     rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
-    if (!ReadLine(line, section)) damaged_ = true;
+    if (!ReadLine(line, sections, section)) damaged = true;
   }
+  sections_ = std::move(sections);
+  return !damaged;
 }
 
 // Answers false for a line that did not read whole. `section` is the index of the
 // section the line belongs to. Keys under a header that did not read have no
 // section and are skipped: guessing one could overwrite good values.
-bool IniSettingsStore::ReadLine(std::string_view line, size_t& section) {
+bool IniSettingsStore::ReadLine(std::string_view line, Sections& sections, size_t& section) {
   if (line.empty() || line.front() == ';' || line.front() == '#') return true;
   if (line.front() == '[') {
     const bool whole = line.size() >= 2 && line.back() == ']';
-    section = whole ? SectionIndex(std::string(line.substr(1, line.size() - 2))) : kNoSection;
+    section = whole ? SectionIndex(sections, std::string(line.substr(1, line.size() - 2))) : kNoSection;
     return whole;
   }
   const size_t equals = line.find('=');
@@ -129,15 +183,15 @@ bool IniSettingsStore::ReadLine(std::string_view line, size_t& section) {
   std::optional<SettingValue> value = ParseValue(Trim(line.substr(equals + 1)));
   if (key.empty() || !value) return false;
   // A repeated key counts as damage: the rewrite keeps only the last value.
-  return Set(sections_[section], std::string(key), std::move(*value));
+  return Set(sections[section], std::string(key), std::move(*value));
 }
 
-size_t IniSettingsStore::SectionIndex(const std::string& name) {
-  for (size_t i = 0; i < sections_.size(); ++i) {
-    if (sections_[i].name == name) return i;
+size_t IniSettingsStore::SectionIndex(Sections& sections, const std::string& name) {
+  for (size_t i = 0; i < sections.size(); ++i) {
+    if (sections[i].name == name) return i;
   }
-  sections_.push_back({name, {}});
-  return sections_.size() - 1;
+  sections.push_back({name, {}});
+  return sections.size() - 1;
 }
 
 bool IniSettingsStore::Set(Section& section, std::string key, Value value) {
@@ -153,6 +207,7 @@ bool IniSettingsStore::Set(Section& section, std::string key, Value value) {
 
 template <typename T>
 std::optional<T> IniSettingsStore::Read(const std::string& section, const std::string& key) const {
+  Refresh();
   for (const Section& candidate : sections_) {
     if (candidate.name != section) continue;
     for (const Entry& entry : candidate.entries) {
@@ -182,33 +237,36 @@ bool IniSettingsStore::WriteText(const std::string& section, const std::string& 
   return Write(section, key, value);
 }
 
-// A refused write leaves memory as it was, so reads keep answering what is on
-// disk and the program never believes in a setting the next run will not see.
+// A refused write leaves memory as the file on disk is, so reads never answer a
+// setting the next run will not see.
 bool IniSettingsStore::Write(const std::string& section, const std::string& key, Value value) {
   lastError_.clear();
   if (!SectionReadsBack(section) || !KeyReadsBack(key)) {
     lastError_ = "the name [" + section + "] " + key + " cannot be stored";
     return false;
   }
-  std::vector<Section> before = sections_;
-  Set(sections_[SectionIndex(section)], key, std::move(value));
   std::error_code ignored;  // a folder that cannot be made makes the write below fail
   std::filesystem::create_directories(path_.parent_path(), ignored);
-  if (!KeepDamagedCopy() || !WriteFileAtomically(path_, Serialize(), &lastError_)) {
-    sections_ = std::move(before);
-    return false;
-  }
+  // A lock that cannot be had (a folder that refuses the lock file, a file system
+  // without flock) does not refuse the write: the lock only guards against our other
+  // program writing in the same instant, and refusing would lose this setting for sure.
+  const WriteLock lock(lockPath_);
+  // Read afresh under the lock: keys another program wrote since our last look stay.
+  const bool whole = Load(Look());
+  Sections changed = sections_;
+  Set(changed[SectionIndex(changed, section)], key, std::move(value));
+  if ((!whole && !KeepDamagedCopy()) || !WriteFileAtomically(path_, Serialize(changed), &lastError_)) return false;
+  sections_ = std::move(changed);
+  seen_ = Stamp{};  // the next read looks at the file as the rename left it
   return true;
 }
 
-// Copies the file as it is on disk aside once, before the first rewrite, to the
-// first free name: an earlier copy may hold the only trace of lost settings.
+// Copies the file as it is on disk aside before it is replaced, to the first free
+// name: an earlier copy may hold the only trace of lost settings.
 bool IniSettingsStore::KeepDamagedCopy() {
-  if (!damaged_) return true;
   std::error_code error;
   if (std::filesystem::symlink_status(path_, error).type() == std::filesystem::file_type::not_found) {
-    damaged_ = false;  // removed since it was read: nothing left to keep
-    return true;
+    return true;  // removed since it was read: nothing left to keep
   }
   std::filesystem::path copy;
   for (int n = 0;; ++n) {
@@ -222,13 +280,12 @@ bool IniSettingsStore::KeepDamagedCopy() {
     lastError_ = "cannot keep a copy of the damaged " + path_.string() + ": " + error.message();
     return false;
   }
-  damaged_ = false;
   return true;
 }
 
-std::string IniSettingsStore::Serialize() const {
+std::string IniSettingsStore::Serialize(const Sections& sections) {
   std::string text;
-  for (const Section& section : sections_) {
+  for (const Section& section : sections) {
     if (!text.empty()) text += "\r\n";
     text += "[" + section.name + "]\r\n";
     for (const Entry& entry : section.entries) text += entry.key + "=" + FormatValue(entry.value) + "\r\n";
