@@ -19,6 +19,9 @@ class cSound {
   void AutoSave() {}
   void OrgPend() {}
   void Hot() {}
+  void AddFav() {}
+  void OrgFav() {}
+  void SelectDialog() {}
 };
 
 }  // namespace qv
