@@ -161,12 +161,12 @@ struct FirstGames : ::testing::Test {
   test::TestProgram t;
 };
 
-TEST_F(FirstGames, NothingWaitingDealsTheLastGameOrSpider) {
+TEST_F(FirstGames, NothingWaitingOpensTheSelection) {
   FirstGame(*t.app, "");
-  EXPECT_EQ(t->cGamePlay.GameName(), "Spider");
-  t.settings.WriteText("General", "LastGName", "Scarab");
-  FirstGame(*t.app, "");
-  EXPECT_EQ(t->cGamePlay.GameName(), "Scarab");
+  EXPECT_EQ(t.window.opened, std::vector<std::string>{"Select"});
+  EXPECT_EQ(t->cGamePlay.Game_Status(), 0);  // its Cancel leaves the table empty
+  FirstGame(*t.app, t.home.File("missing.vq0"));
+  EXPECT_EQ(t.window.opened.size(), 2u);
 }
 
 TEST_F(FirstGames, TheUnfinishedGameComesBackAndStaysMarked) {
@@ -184,7 +184,7 @@ TEST_F(FirstGames, AnUnfinishedGameThatDoesNotReadIsGivenUpOnce) {
   EXPECT_EQ(t.dialogs.shown.size(), 1u);
   EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
   EXPECT_TRUE(std::filesystem::exists(t->cData.UnFinFile()));
-  EXPECT_EQ(t->cGamePlay.Game_Status(), 1);
+  EXPECT_EQ(t.window.opened, std::vector<std::string>{"Select"});
 }
 
 TEST_F(FirstGames, AFileAndAnUnfinishedGameAskWhichToPlay) {

@@ -13,11 +13,11 @@ constexpr const char* kQuestion =
     "previous Game.\r\nClick 'Yes' to start this game or 'No' to start the previous game.";
 
 // Plays the unfinished game; one that is missing or does not read is given up (its file
-// stays where it is) and a new game is dealt instead.
+// stays where it is) and the selection opens instead.
 void ResumeUnfinished(Program& app) {
   if (app.cGamePlay.PlayFile(app.cData.UnFinFile(), false)) return;
   app.cRegistry.Set(setting::UnFin, 0);
-  app.cGamePlay.PlayRandom();
+  app.surface.window.OpenWindow("Select");
 }
 
 // The user chose another game over the unfinished one: like any game given up, it is kept
@@ -30,18 +30,16 @@ void GiveUpUnfinished(Program& app) {
 }  // namespace
 
 void FirstGame(Program& app, const std::string& path) {
-  // One change from the question to the dealt table: a stop meanwhile waits for its end.
-  Motion::Step step(app.motion);
-  if (!step) return;
+  // The question and the selection come first, with no step held: a stop while either is
+  // open need not wait for it. Each way of starting a game takes its own step.
   const bool unfinished = app.cRegistry.Get(setting::UnFin) == 1;
   if (path.empty()) {
-    // The selection dialog comes with the game lists; until then a new deal of the last game.
     if (unfinished) ResumeUnfinished(app);
-    else app.cGamePlay.PlayRandom();
+    else app.surface.window.OpenWindow("Select");
     return;
   }
   if (!unfinished) {
-    if (!app.cGamePlay.PlayFile(path, true)) app.cGamePlay.PlayRandom();
+    if (!app.cGamePlay.PlayFile(path, true)) app.surface.window.OpenWindow("Select");
     return;
   }
   if (app.MsgBox(kQuestion, MsgStyle::YesNoQuestion) == Answer::Yes && app.cGamePlay.PlayFile(path, true)) {
