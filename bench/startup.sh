@@ -50,6 +50,14 @@ xdpyinfo -display "$display" >/dev/null 2>&1 || { echo "Xvfb did not start on $d
 # comes up (the top left corner), so the one key goes to the splash.
 [[ $have_xdotool == 1 ]] && DISPLAY=$display xdotool mousemove --sync 40 40
 
+# The first start with nothing waiting opens the game selection; the runs give a saved game
+# with no moves on the command line, so each start ends in the animated deal.
+first_game="$work/first.vq0"
+mkdir -p "$work/cli-home"
+printf 'new Spider 482913\nsave %s\nexit\n' "$first_game" |
+  env HOME="$work/cli-home" XDG_CONFIG_HOME="$work/cli-home/.config" XDG_DATA_HOME="$work/cli-home/.local/share" \
+    "$(dirname "$program")/quorvale-cli" run >/dev/null
+
 new_home() {
   mkdir -p "$1/.config" "$1/.local/share" "$1/.cache" "$1/runtime"
   chmod 700 "$1/runtime"
@@ -62,7 +70,7 @@ run_once() {
   launch=$(date +%s.%N)
   env DISPLAY="$display" HOME="$home" XDG_CONFIG_HOME="$home/.config" XDG_DATA_HOME="$home/.local/share" \
     XDG_CACHE_HOME="$home/.cache" XDG_RUNTIME_DIR="$home/runtime" QUORVALE_TIMING=1 \
-    "$program" 2>"$fifo" &
+    "$program" "$first_game" 2>"$fifo" &
   app_pid=$!
   exec 3<"$fifo"
   echo "launch $launch" >"$log"

@@ -36,6 +36,7 @@ class ScriptRunner {
   CommandError Deal(const std::vector<std::string>& w);
   CommandError WithNumber(const std::vector<std::string>& w);
   CommandError WithPath(const std::vector<std::string>& w);
+  CommandError Favorite(const std::vector<std::string>& w);
   CommandError FromDialogs(ExitStatus status, const std::string& fallback);
 
   Program& app_;

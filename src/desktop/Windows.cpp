@@ -8,15 +8,19 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include "AddFavDialog.h"
 #include "AnimationDialog.h"
 #include "AutoSaveDialog.h"
 #include "CardDeckDialog.h"
+#include "ChooseDialog.h"
 #include "FileCommands.h"
 #include "HotGamesDialog.h"
 #include "CardPainter.h"
 #include "MainWindow.h"
 #include "OptionsDialog.h"
+#include "OrgFavDialog.h"
 #include "PendingDialog.h"
+#include "SelectDialog.h"
 #include "ToolbarDialog.h"
 #include "session/Program.h"
 
@@ -85,6 +89,10 @@ void OpenProgramWindow(MainWindow& main, const QString& key) {
   else if (key == "AutoSave") AutoSaveDialog(main.app(), &main).exec();
   else if (key == "OrgPend") PendingDialog(main.app(), &main).exec();
   else if (key == "Hot") HotGamesDialog(main.app(), &main).exec();
+  else if (key == "Select") SelectDialog(main.app(), &main).exec();
+  else if (key == "SelNum") ChooseDialog(main.app(), &main).exec();
+  else if (key == "AddFav") AddFavDialog(main.app(), &main).exec();
+  else if (key == "OrgFav") OrgFavDialog(main.app(), &main).exec();
 }
 
 }  // namespace qv
