@@ -39,11 +39,12 @@ QTreeWidgetItem* AddNode(QTreeWidgetItem* parent, const SelectNode& node, const 
 }
 
 ClickLabel* Link(const char* name, const char* text) {
-  auto* label = new ClickLabel(QString("<u>%1</u>").arg(text));
+  auto* label = new ClickLabel(text);
   label->setObjectName(name);
   label->setCursor(Qt::PointingHandCursor);
   QFont f = label->font();
   f.setBold(true);
+  f.setUnderline(true);
   label->setFont(f);
   return label;
 }
@@ -91,6 +92,9 @@ SelectDialog::SelectDialog(Program& app, QWidget* parent)
   big.setPointSizeF(big.pointSizeF() * 1.4);
   big.setBold(true);
   game_->setFont(big);
+  // Fixed heights: the dialog keeps its size whether a game is chosen or not.
+  det_->setFixedHeight(140);
+  sub_->setFixedHeight(120);
   blank_->setObjectName("PicBlank");
   blankSub_->setObjectName("PicBlankSub");
   blank_->setFixedSize(330, 220);
@@ -126,8 +130,8 @@ SelectDialog::SelectDialog(Program& app, QWidget* parent)
   right->addWidget(players_);
   right->addWidget(game_);
   right->addWidget(preview_);
-  right->addWidget(det_, 1);
-  right->addWidget(sub_, 1);
+  right->addWidget(det_);
+  right->addWidget(sub_);
   right->addWidget(blank_);
   right->addWidget(blankSub_);
   right->addStretch();
@@ -224,9 +228,10 @@ void SelectDialog::ChooseNode(QTreeWidgetItem* node) {
 void SelectDialog::LayOutPanel() {
   const bool chosen = !selGame_.empty();
   game_->setText(Q(selGame_));
-  for (QWidget* w : std::initializer_list<QWidget*>{game_, preview_, det_, sub_, play_, rules_}) w->setVisible(chosen);
-  blank_->setVisible(!chosen);
-  blankSub_->setVisible(!chosen);
+  const std::initializer_list<QWidget*> game{game_, preview_, det_, sub_, play_, rules_}, blank{blank_, blankSub_};
+  // What goes is hidden first: for a moment both panels shown would stretch the dialog.
+  for (QWidget* w : chosen ? blank : game) w->hide();
+  for (QWidget* w : chosen ? game : blank) w->show();
   update();
 }
 
