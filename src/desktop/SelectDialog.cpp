@@ -82,6 +82,8 @@ SelectDialog::SelectDialog(Program& app, QWidget* parent)
   setWindowTitle("Select a Game");
   setModal(true);
   categories_->setObjectName("lvMain");
+  // The chosen category shows in red, not as a selection.
+  categories_->setSelectionMode(QAbstractItemView::NoSelection);
   tree_->setObjectName("tvRight");
   tree_->setHeaderHidden(true);
   players_->setObjectName("imcPlayer");

@@ -46,7 +46,12 @@ QTreeWidgetItem* Node(QTreeWidget* tree, const QString& text) {
   return found.first();
 }
 void ClickCategory(SelectDialog& dlg, const char* key) { dlg.ChooseCategory(key); }
-void ClickNode(SelectDialog& dlg, const QString& text) { dlg.ChooseNode(Node(Get<QTreeWidget>(dlg, "tvRight"), text)); }
+void ClickNode(SelectDialog& dlg, const QString& text) {
+  auto* tree = Get<QTreeWidget>(dlg, "tvRight");
+  QTreeWidgetItem* node = Node(tree, text);
+  tree->setCurrentItem(node);
+  dlg.ChooseNode(node);
+}
 bool Blank(SelectDialog& dlg) {
   return Get<QLabel>(dlg, "PicBlank")->isVisibleTo(&dlg) && !Get<QLabel>(dlg, "lbPlay")->isVisibleTo(&dlg);
 }
