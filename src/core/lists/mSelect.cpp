@@ -51,8 +51,6 @@ void AddPaths(SelectNode& root, const std::vector<std::string>& paths) {
   }
 }
 
-std::vector<std::string> Recent(const Program& app, int list) { return RecentMenuEntries(app, list); }
-
 SelectNode FavNode(const FavGame& g) { return {g.path, g.name, g.record.GameName, {}}; }
 
 const SelectNode* FindIn(const SelectNode& node, const std::string& key) {
@@ -108,8 +106,8 @@ SelectTree FillSelectTree(const Program& app, const std::string& category) {
   else if (category == "Inc") AddListed(root, ListAutoSaves(app, false), true);
   else if (category == "Fin") AddListed(root, ListAutoSaves(app, true), false);
   else if (category == "Save") AddPaths(root, GetSavedFiles(app));
-  else if (category == "rSave") AddPaths(root, Recent(app, kRecentSaved));
-  else if (category == "rOpen") AddPaths(root, Recent(app, kRecentOpened));
+  else if (category == "rSave") AddPaths(root, RecentMenuEntries(app, kRecentSaved));
+  else if (category == "rOpen") AddPaths(root, RecentMenuEntries(app, kRecentOpened));
   else if (category == "rPlay") {
     for (const std::string& entry : PlayableEntries(app)) root.children.push_back({entry, entry, SplitPlayed(entry)->first, {}});
   } else if (category == "Fav") {
