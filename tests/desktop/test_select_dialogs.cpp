@@ -20,6 +20,7 @@
 #include "SelectDialog.h"
 #include "TemporaryUserHome.h"
 #include "TestProgram.h"
+#include "lists/AutoSave.h"
 #include "lists/Favorites.h"
 #include "lists/Recent.h"
 #include "scores/Players.h"
@@ -122,13 +123,14 @@ class SelectDialogTest : public QObject {
     QVERIFY(AddFavFile(*t));
     const std::string file = t->cData.SavedFolder() + "/p.vq0";
     QVERIFY(t->cEngine.SavetoFile(file));
+    QVERIFY(AutoSaveGame(*t, true, true));  // a finished copy
     struct Case {
       const char* key;
       QString node;
       int loadingType;
     };
     for (const Case& c : {Case{"Std", "Coral", 0}, Case{"Fav", "Plaza - 12", 0}, Case{"Save", "Plaza - 12 (0%)", 1},
-                          Case{"rPlay", "Plaza - 12", 0}}) {
+                          Case{"Fin", "Plaza-12", 2}, Case{"rPlay", "Plaza - 12", 0}}) {
       SelectDialog dlg(*t);
       ClickCategory(dlg, c.key);
       ClickNode(dlg, c.node);
