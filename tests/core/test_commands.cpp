@@ -6,8 +6,10 @@
 #include "TestProgram.h"
 #include "session/CommandTable.h"
 #include "session/Commands.h"
+#include "lists/AutoSave.h"
 #include "session/FirstGame.h"
 #include "session/SavedGameFile.h"
+#include "session/StartUp.h"
 #include "settings/Settings.h"
 
 namespace qv {
@@ -201,6 +203,29 @@ TEST_F(FirstGames, AFileAndAnUnfinishedGameAskWhichToPlay) {
   FirstGame(*no.app, t.home.File("given.vq0"));  // No: the previous game
   EXPECT_EQ(no->cGamePlay.GameName(), "Plaza");
   EXPECT_EQ(no->cRegistry.Get(setting::UnFin), 1);
+}
+
+TEST_F(FirstGames, AStopAtTheQuestionOrDuringTheChosenDealLosesNeitherGame) {
+  t.settings.WriteInt("General", "UnFin", 1);
+  t.dialogs.onShow = [&] { StopProgram(*t.app, nullptr); };  // a logout while it asks
+  FirstGame(*t.app, t.home.File("given.vq0"));
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 1);
+  EXPECT_EQ(ReadGameHeader(t->cData.UnFinFile())->GameName, "Coral");
+
+  test::TestProgram yes;
+  ASSERT_TRUE(std::filesystem::copy_file(t->cData.UnFinFile(), yes->cData.UnFinFile()));
+  yes.settings.WriteInt("General", "UnFin", 1);
+  yes.dialogs.answers = {Answer::Yes};
+  yes.sprites.onYield = [&] {
+    yes.sprites.onYield = nullptr;
+    EXPECT_FALSE(StopProgram(*yes.app, [&] { StopProgram(*yes.app, nullptr); }));  // waits for the step
+  };
+  FirstGame(*yes.app, t.home.File("given.vq0"));
+  EXPECT_EQ(yes->motion.state(), Motion::State::Stopped);
+  EXPECT_EQ(ReadGameHeader(yes->cData.UnFinFile())->GameName, "Plaza");
+  const auto copies = GetAutoSaveFiles(*yes.app, false);
+  ASSERT_EQ(copies.size(), 1u);
+  EXPECT_EQ(ReadGameHeader(copies[0])->GameName, "Coral");
 }
 
 TEST_F(FirstGames, YesToABadFileKeepsTheUnfinishedGame) {

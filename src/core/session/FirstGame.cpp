@@ -16,6 +16,7 @@ constexpr const char* kQuestion =
 // stays where it is) and the selection opens instead.
 void ResumeUnfinished(Program& app) {
   if (app.cGamePlay.PlayFile(app.cData.UnFinFile(), false)) return;
+  if (app.motion.state() == Motion::State::Stopped) return;  // refused by the stop, not unreadable
   app.cRegistry.Set(setting::UnFin, 0);
   app.surface.window.OpenWindow("Select");
 }
@@ -25,6 +26,15 @@ void ResumeUnfinished(Program& app) {
 void GiveUpUnfinished(Program& app) {
   if (app.cRegistry.Get(setting::EnableInc) == 1) AutoSaveFile(app, app.cData.UnFinFile());
   app.cRegistry.Set(setting::UnFin, 0);
+}
+
+// One step from the file's deal to the unfinished game given up: a stop meanwhile waits for
+// both, so it never keeps the new game where the unfinished one is still to be copied from.
+bool PlayInsteadOfUnfinished(Program& app, const std::string& path) {
+  Motion::Step step(app.motion);
+  if (!step || !app.cGamePlay.PlayFile(path, true)) return false;
+  GiveUpUnfinished(app);
+  return true;
 }
 
 }  // namespace
@@ -42,10 +52,13 @@ void FirstGame(Program& app, const std::string& path) {
     if (!app.cGamePlay.PlayFile(path, true)) app.surface.window.OpenWindow("Select");
     return;
   }
-  if (app.MsgBox(kQuestion, MsgStyle::YesNoQuestion) == Answer::Yes && app.cGamePlay.PlayFile(path, true)) {
-    GiveUpUnfinished(app);
+  const Answer answer = app.MsgBox(kQuestion, MsgStyle::YesNoQuestion);
+  if (app.motion.state() == Motion::State::Stopped) {
+    // Stopped with the question open: nothing was decided, so the unfinished game stays offered.
+    app.cRegistry.Set(setting::UnFin, 1);
     return;
   }
+  if (answer == Answer::Yes && PlayInsteadOfUnfinished(app, path)) return;
   ResumeUnfinished(app);
 }
 
