@@ -13,7 +13,6 @@ void MainWindow::RefreshFavMenu() {
   const FavTree tree = ReadFavTree(*app_);
   auto addGame = [this](QMenu* menu, const FavGame& game) {
     QAction* a = menu->addAction(CommandIcon("Q1"), QString::fromStdString(game.name));
-    a->setData(QString::fromStdString(game.path));
     const std::string path = game.path;
     connect(a, &QAction::triggered, this, [this, path] { app_->cGamePlay.PlayFavFile(path); });
     return a;
@@ -23,7 +22,6 @@ void MainWindow::RefreshFavMenu() {
     sub->setIcon(CommandIcon("FOLDER"));
     for (const FavGame& game : folder.games) addGame(sub, game);
     QAction* entry = favMenu_->addMenu(sub);
-    entry->setData(QString::fromStdString(folder.path));
     connect(entry, &QObject::destroyed, sub, &QObject::deleteLater);
     favEntries_.push_back(entry);
   }
