@@ -50,19 +50,28 @@ xdpyinfo -display "$display" >/dev/null 2>&1 || { echo "Xvfb did not start on $d
 # comes up (the top left corner), so the one key goes to the splash.
 [[ $have_xdotool == 1 ]] && DISPLAY=$display xdotool mousemove --sync 40 40
 
+# A first start with nothing waiting opens the game selection: the first starts give a saved
+# game with no moves on the command line, so they end in the animated deal. Later starts
+# resume the game the last one left.
+first_game="$work/first.vq0"
+mkdir -p "$work/cli-home"
+printf 'new Spider 482913\nsave %s\nexit\n' "$first_game" |
+  env HOME="$work/cli-home" XDG_CONFIG_HOME="$work/cli-home/.config" XDG_DATA_HOME="$work/cli-home/.local/share" \
+    "$(dirname "$program")/quorvale-cli" run >/dev/null
+
 new_home() {
   mkdir -p "$1/.config" "$1/.local/share" "$1/.cache" "$1/runtime"
   chmod 700 "$1/runtime"
 }
 
-# One start in home $1, its moments written to log $2.
+# One start in home $1, its moments written to log $2; $3, if given, on the command line.
 run_once() {
   local home=$1 log=$2 fifo="$2.fifo" launch line
   mkfifo "$fifo"
   launch=$(date +%s.%N)
   env DISPLAY="$display" HOME="$home" XDG_CONFIG_HOME="$home/.config" XDG_DATA_HOME="$home/.local/share" \
     XDG_CACHE_HOME="$home/.cache" XDG_RUNTIME_DIR="$home/runtime" QUORVALE_TIMING=1 \
-    "$program" 2>"$fifo" &
+    "$program" ${3:+"$3"} 2>"$fifo" &
   app_pid=$!
   exec 3<"$fifo"
   echo "launch $launch" >"$log"
@@ -142,13 +151,13 @@ report() {
 logs=()
 for run in $(seq "$runs"); do
   new_home "$work/first$run"
-  run_once "$work/first$run" "$work/first$run.log"
+  run_once "$work/first$run" "$work/first$run.log" "$first_game"
   logs+=("$work/first$run.log")
 done
 intervals "${logs[@]}" >"$work/first.table"
 
 new_home "$work/later"
-run_once "$work/later" "$work/prime.log"  # untimed: sets the home up
+run_once "$work/later" "$work/prime.log" "$first_game"  # untimed: sets the home up
 logs=()
 for run in $(seq "$runs"); do
   run_once "$work/later" "$work/later$run.log"

@@ -10,6 +10,7 @@
 #include "ScoreCommands.h"
 #include "StateJson.h"
 #include "engine/Pointer.h"
+#include "lists/Favorites.h"
 #include "lists/Recent.h"
 #include "scores/PlayerEdit.h"
 #include "scores/Players.h"
@@ -95,6 +96,7 @@ CommandError ScriptRunner::Execute(const std::vector<std::string>& w, bool& fini
   if (cmd == "tick" || cmd == "moveto") return WithNumber(w);
   if (cmd == "open" || cmd == "save") return WithPath(w);
   if (cmd == "player") return Player(w);
+  if (cmd == "addfav" || cmd == "playfav") return Favorite(w);
   if (w.size() != 1) return Usage(cmd + " takes no arguments");
   // Commands of the window's menus: one that would be greyed does nothing.
   static const std::map<std::string, std::string> kMenuKeys{
@@ -162,6 +164,20 @@ CommandError ScriptRunner::WithPath(const std::vector<std::string>& w) {
   if (!app_.cEngine.SavetoFile(path, &error))
     return {kFileError, "the game could not be saved to \"" + w[1] + "\": " + error};
   AddRecent(app_, kRecentSaved, path);
+  return {};
+}
+
+CommandError ScriptRunner::Favorite(const std::vector<std::string>& w) {
+  std::error_code ec;
+  const std::string path = w.size() == 2 ? std::filesystem::absolute(w[1], ec).string() : "";
+  if (w[0] == "playfav") {
+    if (w.size() != 2) return Usage("playfav takes a path");
+    if (!app_.cGamePlay.PlayFavFile(path)) return FromDialogs(kFileError, "the favourite cannot be played");
+    return {};
+  }
+  if (w.size() > 2) return Usage("addfav takes at most a path");
+  if (!CommandEnabled(app_, "AddFav")) return {};
+  if (!AddFavFile(app_, path)) return FromDialogs(kFileError, "the favourite could not be written");
   return {};
 }
 

@@ -37,6 +37,7 @@ class ScriptRunner {
   CommandError WithNumber(const std::vector<std::string>& w);
   CommandError WithPath(const std::vector<std::string>& w);
   CommandError Player(const std::vector<std::string>& w);
+  CommandError Favorite(const std::vector<std::string>& w);
   CommandError FromDialogs(ExitStatus status, const std::string& fallback);
 
   Program& app_;

@@ -1,4 +1,5 @@
 // quorvale-cli: the game engine without a window, for scripts, tests and players.
+#include <algorithm>
 #include <fstream>
 #include <iostream>
 #include <string>
@@ -7,11 +8,13 @@
 #include "CliSurface.h"
 #include "Script.h"
 #include "ScoreCommands.h"
+#include "SelectJson.h"
 #include "StateJson.h"
 #include "lists/AutoSave.h"
 #include "lists/Pending.h"
 #include "lists/Recent.h"
 #include "scores/Finish.h"
+#include "lists/mSelect.h"
 #include "session/Program.h"
 #include "session/StartUp.h"
 #include "settings/IniSettingsStore.h"
@@ -49,6 +52,11 @@ Commands:
                      The players and the current one; a change the Players window
                      refuses is refused with its message and exit status 1.
   export [FILE]      The statistics report to FILE, or to standard output.
+  favorites          The favourites as JSON: folders with their games, then the root's
+                     games, each with its file and record (game, number, player, date).
+  select KEY [ITEM]  A category of the game selection as it fills (KEY: Org, Std, All,
+                     Pend, Fav, Hot, Inc, Fin, Save, rSave, rOpen, rPlay), as JSON; with
+                     ITEM (a node's key), that entry's details and rules in short.
   --help             Show this text.
 
 DATE is a date as the score files hold it, such as 11/17/2026 (default: today).
@@ -69,6 +77,9 @@ table, reads and writes your settings as the program does, and runs:
   tick N                   N seconds of the game clock
   pause | restart | close
   save PATH | open PATH    (a finished game is replayed to its end at once)
+  addfav [PATH]            add the deal on the table to the favourites (by default
+                           "<game> - <number>" in the favourites folder)
+  playfav PATH             deal a favourite's game and number
   show                     print the state as JSON
   title                    print the window title
   player NAME              play as NAME from now on (a new name is added)
@@ -130,6 +141,15 @@ int List(const std::vector<std::string>& args) {
   if (args[0] == "autosave-list") {
     std::cout << "{\"incomplete\":" << JsonArray(qv::GetAutoSaveFiles(app, false))
               << ",\"finished\":" << JsonArray(qv::GetAutoSaveFiles(app, true)) << "}\n";
+  } else if (args[0] == "favorites") {
+    std::cout << qv::FavoritesJson(app) << "\n";
+  } else if (args[0] == "select") {
+    const auto& keys = qv::SelectCategories();
+    if (std::none_of(keys.begin(), keys.end(), [&](const auto& c) { return args[1] == c.key; }))
+      return Fail(qv::kUsageError, "no category \"" + args[1] + "\"; see quorvale-cli --help");
+    const std::string json = args.size() == 3 ? qv::SelectItemJson(app, args[1], args[2]) : qv::SelectJson(app, args[1]);
+    if (json.empty()) return Fail(qv::kUsageError, "no game \"" + args[2] + "\" in " + args[1]);
+    std::cout << json << "\n";
   } else if (args[0] == "pending-list") {
     std::cout << JsonArray(qv::GetPendingFiles(app)) << "\n";
   } else {
@@ -181,5 +201,7 @@ int main(int argc, char** argv) {
   if ((args[0] == "autosave-list" || args[0] == "pending-list") && args.size() == 1) return List(args);
   if (args[0] == "recent" && args.size() == 2) return List(args);
   if (qv::IsScoreCommand(args[0])) return Scores(args);
+  if (args[0] == "favorites" && args.size() == 1) return List(args);
+  if (args[0] == "select" && (args.size() == 2 || args.size() == 3)) return List(args);
   return Fail(qv::kUsageError, "unknown command or wrong arguments; see quorvale-cli --help");
 }

@@ -55,7 +55,7 @@ MainWindow::MainWindow(ISettingsStore& store, QWidget* parent)
   BuildMenus();
   BuildToolbar();
   for (auto it = actions_.cbegin(); it != actions_.cend(); ++it)
-    if (it.key() != "Stop" && it.key() != "OrgPend")  // kept by the replay and the pending list
+    if (it.key() != "Stop" && it.key() != "OrgPend" && it.key() != "OrgFav")  // kept by the replay and the lists
       commands_.push_back({it.key().toStdString(), it.value(), toolbarItems_.value(it.key())});
   autoPlayEntry_ = actions_.value("AutoPlay");
   autoPlayButton_ = toolbarItems_.value("AutoPlay");
@@ -111,6 +111,7 @@ void MainWindow::BuildMenus() {
     }
     for (; next <= menu.size; ++next) m->addSeparator();
     if (QString(menu.name) == "mPend") pendMenu_ = m;
+    if (QString(menu.name) == "mFav") favMenu_ = m;
   }
 }
 
@@ -140,6 +141,7 @@ void MainWindow::RefreshMenus() {
   const bool files = std::any_of(pending.begin(), pending.end(), [](const auto& e) { return !e.playing; });
   actions_.value("OrgPend")->setEnabled(files);
   toolbarItems_.value("OrgPend")->setEnabled(files);
+  RefreshFavMenu();
 }
 
 void MainWindow::BuildToolbar() {

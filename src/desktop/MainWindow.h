@@ -62,6 +62,8 @@ class MainWindow : public QMainWindow, public IWindow {
  private:
   void BuildMenus();
   void BuildToolbar();
+  // The Favorites menu: folders with their games, then the root's games.
+  void RefreshFavMenu();
   QTimer& TimerOf(Timer t) const { return *timers_[static_cast<int>(t)]; }
 
   QGraphicsScene scene_;
@@ -89,6 +91,8 @@ class MainWindow : public QMainWindow, public IWindow {
   std::array<QMenu*, 3> recentMenus_{};  // by list: played, saved, opened
   QMenu* pendMenu_ = nullptr;
   std::vector<QAction*> pendEntries_;
+  QMenu* favMenu_ = nullptr;
+  std::vector<QAction*> favEntries_;
   bool loaded_ = false;  // the load step has run: there is a session to stop
 };
 

@@ -8,9 +8,11 @@
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
+#include "AddFavDialog.h"
 #include "AnimationDialog.h"
 #include "AutoSaveDialog.h"
 #include "CardDeckDialog.h"
+#include "ChooseDialog.h"
 #include "FileCommands.h"
 #include "GameStatDialog.h"
 #include "HighScoreDialog.h"
@@ -19,9 +21,11 @@
 #include "CardPainter.h"
 #include "MainWindow.h"
 #include "OptionsDialog.h"
+#include "OrgFavDialog.h"
 #include "PendingDialog.h"
 #include "PlayersDialog.h"
 #include "SessionStatDialog.h"
+#include "SelectDialog.h"
 #include "ToolbarDialog.h"
 #include "session/Program.h"
 
@@ -95,6 +99,10 @@ void OpenProgramWindow(MainWindow& main, const QString& key) {
   else if (key == "GameStat") GameStatDialog(main.app(), &main).exec();
   else if (key == "SessionStat") SessionStatDialog(main.app(), &main).exec();
   else if (key == "Players") PlayersDialog(main.app(), &main).exec();
+  else if (key == "Select") SelectDialog(main.app(), &main).exec();
+  else if (key == "SelNum") ChooseDialog(main.app(), &main).exec();
+  else if (key == "AddFav") AddFavDialog(main.app(), &main).exec();
+  else if (key == "OrgFav") OrgFavDialog(main.app(), &main).exec();
 }
 
 }  // namespace qv

@@ -244,6 +244,25 @@ TEST_F(Cli, ListsShowWhatReadsAndLookingWritesNothing) {
   EXPECT_EQ(Tool("recent 2").out, list(good) + "\n");
 }
 
+TEST_F(Cli, FavouritesAreAddedListedPlayedAndTheSelectionFills) {
+  const std::string fav = scratch.File("mine");
+  ASSERT_EQ(Run("number Coral 0042\naddfav\naddfav \"" + fav + "\"\nplayfav \"" + fav + "\"\ntitle\n").status, 0);
+  const Json all = Parse(Tool("favorites").out);
+  ASSERT_EQ(all["games"].size(), 1u);
+  EXPECT_EQ(all["games"][0]["name"].text, R"("Coral - 0042")");
+  EXPECT_EQ(all["games"][0]["number"].text, R"("0042")");
+  EXPECT_EQ(all["games"][0]["typed"].text, "true");
+  EXPECT_EQ(Run("playfav \"" + scratch.File("none") + "\"\n").status, 1);
+  const Json tree = Parse(Tool("select Fav").out);
+  EXPECT_EQ(tree["root"]["text"].text, R"("Favorites")");
+  const std::string key = tree["root"]["children"][0]["key"].text;
+  const Json item = Parse(Tool("select Fav " + Quoted(key.substr(1, key.size() - 2))).out);
+  EXPECT_EQ(item["details"][1].text, R"("Game Number :0042")");
+  EXPECT_EQ(item["rules"].size(), 6u);
+  EXPECT_EQ(Parse(Tool("select rPlay").out)["root"]["children"][0]["text"].text, R"("Coral - 0042")");
+  EXPECT_EQ(Tool("select Nope").status, 2);
+}
+
 }  // namespace
 }  // namespace qv::test
 

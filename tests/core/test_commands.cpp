@@ -7,8 +7,10 @@
 #include "lists/AutoSave.h"
 #include "session/CommandTable.h"
 #include "session/Commands.h"
+#include "lists/AutoSave.h"
 #include "session/FirstGame.h"
 #include "session/SavedGameFile.h"
+#include "session/StartUp.h"
 #include "settings/Settings.h"
 
 namespace qv {
@@ -162,12 +164,12 @@ struct FirstGames : ::testing::Test {
   test::TestProgram t;
 };
 
-TEST_F(FirstGames, NothingWaitingDealsTheLastGameOrSpider) {
+TEST_F(FirstGames, NothingWaitingOpensTheSelection) {
   FirstGame(*t.app, "");
-  EXPECT_EQ(t->cGamePlay.GameName(), "Spider");
-  t.settings.WriteText("General", "LastGName", "Scarab");
-  FirstGame(*t.app, "");
-  EXPECT_EQ(t->cGamePlay.GameName(), "Scarab");
+  EXPECT_EQ(t.window.opened, std::vector<std::string>{"Select"});
+  EXPECT_EQ(t->cGamePlay.Game_Status(), 0);  // its Cancel leaves the table empty
+  FirstGame(*t.app, t.home.File("missing.vq0"));
+  EXPECT_EQ(t.window.opened.size(), 2u);
 }
 
 TEST_F(FirstGames, TheUnfinishedGameComesBackAndStaysMarked) {
@@ -185,7 +187,7 @@ TEST_F(FirstGames, AnUnfinishedGameThatDoesNotReadIsGivenUpOnce) {
   EXPECT_EQ(t.dialogs.shown.size(), 1u);
   EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
   EXPECT_TRUE(std::filesystem::exists(t->cData.UnFinFile()));
-  EXPECT_EQ(t->cGamePlay.Game_Status(), 1);
+  EXPECT_EQ(t.window.opened, std::vector<std::string>{"Select"});
 }
 
 TEST_F(FirstGames, AFileAndAnUnfinishedGameAskWhichToPlay) {
@@ -203,6 +205,29 @@ TEST_F(FirstGames, AFileAndAnUnfinishedGameAskWhichToPlay) {
   FirstGame(*no.app, t.home.File("given.vq0"));  // No: the previous game
   EXPECT_EQ(no->cGamePlay.GameName(), "Plaza");
   EXPECT_EQ(no->cRegistry.Get(setting::UnFin), 1);
+}
+
+TEST_F(FirstGames, AStopAtTheQuestionOrDuringTheChosenDealLosesNeitherGame) {
+  t.settings.WriteInt("General", "UnFin", 1);
+  t.dialogs.onShow = [&] { StopProgram(*t.app, nullptr); };  // a logout while it asks
+  FirstGame(*t.app, t.home.File("given.vq0"));
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 1);
+  EXPECT_EQ(ReadGameHeader(t->cData.UnFinFile())->GameName, "Coral");
+
+  test::TestProgram yes;
+  ASSERT_TRUE(std::filesystem::copy_file(t->cData.UnFinFile(), yes->cData.UnFinFile()));
+  yes.settings.WriteInt("General", "UnFin", 1);
+  yes.dialogs.answers = {Answer::Yes};
+  yes.sprites.onYield = [&] {
+    yes.sprites.onYield = nullptr;
+    EXPECT_FALSE(StopProgram(*yes.app, [&] { StopProgram(*yes.app, nullptr); }));  // waits for the step
+  };
+  FirstGame(*yes.app, t.home.File("given.vq0"));
+  EXPECT_EQ(yes->motion.state(), Motion::State::Stopped);
+  EXPECT_EQ(ReadGameHeader(yes->cData.UnFinFile())->GameName, "Plaza");
+  const auto copies = GetAutoSaveFiles(*yes.app, false);
+  ASSERT_EQ(copies.size(), 1u);
+  EXPECT_EQ(ReadGameHeader(copies[0])->GameName, "Coral");
 }
 
 TEST_F(FirstGames, YesToABadFileKeepsTheUnfinishedGame) {

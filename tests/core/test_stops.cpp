@@ -211,6 +211,7 @@ TEST_F(Crash, AGameEndedBeforeTheCrashNeverComesBack) {
   EXPECT_EQ(GamesKept(*t.app), (std::multiset<std::string>{"Spider - 1234 @10"}));  // its auto-saved copy
   EXPECT_NE(OnTable(*t.app), "Spider - 1234 @10");
   // Nor does one moved to the pending list: it waits there, once.
+  ExecCommand(*t.app, "New");  // the selection at start was left without a game
   ExecCommand(*t.app, "AddPend");
   const std::string pending = GetPendingFiles(*t.app).at(0);
   Tick(0);

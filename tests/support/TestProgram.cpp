@@ -14,6 +14,7 @@ namespace qv::test {
 Answer ScriptedDialogs::MsgBox(const std::string& text, MsgStyle style, const std::string& title) {
   shown.push_back(text);
   titles.push_back(title);
+  if (onShow) onShow();
   const bool question = style == MsgStyle::YesNoStop || style == MsgStyle::YesNoQuestion;
   if (!question) return Answer::Ok;
   if (answers.empty()) return Answer::No;

@@ -2,6 +2,7 @@
 
 #include <deque>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -20,6 +21,7 @@ class ScriptedDialogs : public IDialogs {
   std::deque<Answer> answers;
   std::vector<std::string> shown;
   std::vector<std::string> titles;
+  std::function<void()> onShow;  // runs while a box is open, as a timer or a stop would
 };
 
 class FakeClock : public IClock {

@@ -41,6 +41,13 @@ void cCustom::Res(int16_t cRPiles, int16_t cRCards) {
   RCards = cRCards;
 }
 
+std::array<cCustom::PlacedPicture, 3> cCustom::Update_Pic() const {
+  const cImages& images = app_->cImages;
+  return {{{images.PreviewPicture(cImages::PreviewReserve, RPiles, RCards), 0, 0},
+           {images.PreviewPicture(cImages::PreviewGoal, GBase, GCards), 125, 0},
+           {images.PreviewPicture(cImages::PreviewTableau, HPiles, Suits), 0, 36}}};
+}
+
 void cCustom::LoadGameFile(const GameHeader& h) {
   GameName = h.GameName;
   GOrder = h.GOrder, GBase = h.GBase, GCards = h.GCards;

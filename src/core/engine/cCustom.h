@@ -1,8 +1,11 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
+
+#include "surface/Picture.h"
 
 namespace qv {
 
@@ -26,6 +29,14 @@ class cCustom {
   void LoadGameFile(const GameHeader& header);
   // Names of the created games; element 0 is their count as text.
   std::vector<std::string> GetStudioGames() const;
+
+  // The small preview of the parameters held: three pictures and where they go, in units
+  // of a 250 by 72 box (the first row is 125 by 36 each).
+  struct PlacedPicture {
+    Picture picture;
+    int x, y;
+  };
+  std::array<PlacedPicture, 3> Update_Pic() const;
 
   // True while the rule fields held came from a saved game's header for this very name,
   // which is what lets a game whose name is no longer known be dealt.

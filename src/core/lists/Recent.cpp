@@ -6,22 +6,28 @@
 
 namespace qv {
 
-namespace {
-// A recently-played entry "Name - Number" is read from its last " - ", as PlayString
-// reads it, so a name may hold a dash. It plays only with a number in digits: one read in
-// its number form from a file ("-5") would make an entry that does nothing.
-bool NumberPlays(const std::string& item) {
-  const auto cut = item.rfind(" - ");
-  return cut != std::string::npos && cut > 0 && GameNo::IsDigitText(item.substr(cut + 3));
+std::optional<std::pair<std::string, GameNo>> SplitPlayed(const std::string& entry) {
+  const auto cut = entry.rfind(" - ");
+  if (cut == std::string::npos || cut == 0) return std::nullopt;
+  const std::string number = entry.substr(cut + 3);
+  // One read in its number form from a file ("-5") would make an entry that does nothing.
+  if (!GameNo::IsDigitText(number)) return std::nullopt;
+  return std::make_pair(entry.substr(0, cut), GameNo::Typed(number));
 }
-// Its game may come and go (a created game deleted, made again): that is asked when listed.
-bool Plays(const Program& app, const std::string& item) {
-  return NumberPlays(item) && app.cData.GameExists(item.substr(0, item.rfind(" - ")));
+
+std::vector<std::string> PlayableEntries(const Program& app) {
+  std::vector<std::string> shown;
+  const auto slots = app.cFunc.GetMRU(kRecentPlayed);
+  for (size_t i = 1; i < slots.size(); ++i) {
+    // Its game may come and go (a created game deleted, made again): that is asked when listed.
+    const auto played = SplitPlayed(slots[i]);
+    if (played && app.cData.GameExists(played->first)) shown.push_back(slots[i]);
+  }
+  return shown;
 }
-}  // namespace
 
 void AddRecent(Program& app, int mType, const std::string& item) {
-  if (mType == kRecentPlayed && !NumberPlays(item)) return;
+  if (mType == kRecentPlayed && !SplitPlayed(item)) return;
   app.cFunc.AddtoMRU(mType, item);
   app.surface.window.RefreshMenus();
 }
@@ -34,17 +40,11 @@ void ClearRecent(Program& app, int mType) {
 int GetRecentCount(const Program& app, int mType) { return app.cFunc.GetMRUCount(mType); }
 
 std::vector<std::string> RecentMenuEntries(const Program& app, int mType) {
+  if (mType == kRecentPlayed) return PlayableEntries(app);
   std::vector<std::string> shown;
   const auto slots = app.cFunc.GetMRU(mType);
-  for (size_t i = 1; i < slots.size(); ++i) {
-    const std::string& item = slots[i];
-    if (item.empty()) continue;
-    if (mType == kRecentPlayed) {
-      if (Plays(app, item)) shown.push_back(item);
-    } else if (ReadGameHeader(item)) {
-      shown.push_back(item);
-    }
-  }
+  for (size_t i = 1; i < slots.size(); ++i)
+    if (!slots[i].empty() && ReadGameHeader(slots[i])) shown.push_back(slots[i]);
   return shown;
 }
 

@@ -1,7 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
+
+#include "engine/GameNo.h"
 
 namespace qv {
 
@@ -9,6 +13,12 @@ class Program;
 
 // The recent lists of the File menu: 0 played ("Name - Number"), 1 saved, 2 opened (paths).
 enum RecentList { kRecentPlayed = 0, kRecentSaved = 1, kRecentOpened = 2 };
+
+// A recently-played entry "Name - Number" read from its last " - ", so a name may hold a
+// dash; std::nullopt unless the number is typed digits (what the entry can play).
+std::optional<std::pair<std::string, GameNo>> SplitPlayed(const std::string& entry);
+// The played entries that play now: their game exists.
+std::vector<std::string> PlayableEntries(const Program& app);
 
 // Adds to a list and has the menus rebuilt.
 void AddRecent(Program& app, int mType, const std::string& item);

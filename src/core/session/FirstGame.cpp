@@ -13,11 +13,12 @@ constexpr const char* kQuestion =
     "previous Game.\r\nClick 'Yes' to start this game or 'No' to start the previous game.";
 
 // Plays the unfinished game; one that is missing or does not read is given up (its file
-// stays where it is) and a new game is dealt instead.
+// stays where it is) and the selection opens instead.
 void ResumeUnfinished(Program& app) {
   if (app.cGamePlay.PlayFile(app.cData.UnFinFile(), false)) return;
+  if (app.motion.state() == Motion::State::Stopped) return;  // refused by the stop, not unreadable
   app.cRegistry.Set(setting::UnFin, 0);
-  app.cGamePlay.PlayRandom();
+  app.surface.window.OpenWindow("Select");
 }
 
 // The user chose another game over the unfinished one: like any game given up, it is kept
@@ -27,28 +28,38 @@ void GiveUpUnfinished(Program& app) {
   app.cRegistry.Set(setting::UnFin, 0);
 }
 
+// One step from the file's deal to the unfinished game given up: a stop meanwhile waits for
+// both, so it never keeps the new game where the unfinished one is still to be copied from.
+bool PlayInsteadOfUnfinished(Program& app, const std::string& path) {
+  Motion::Step step(app.motion);
+  if (!step || !app.cGamePlay.PlayFile(path, true)) return false;
+  GiveUpUnfinished(app);
+  return true;
+}
+
 }  // namespace
 
 void FirstGame(Program& app, const std::string& path) {
-  // One change from the question to the dealt table: a stop meanwhile waits for its end.
-  Motion::Step step(app.motion);
-  if (!step) return;
+  // The question and the selection come first, with no step held: a stop while either is
+  // open need not wait for it. Each way of starting a game takes its own step.
   // The unfinished game is the game of the program that keeps the session.
   const bool unfinished = app.session.Held() && app.cRegistry.Get(setting::UnFin) == 1;
   if (path.empty()) {
-    // The selection dialog comes with the game lists; until then a new deal of the last game.
     if (unfinished) ResumeUnfinished(app);
-    else app.cGamePlay.PlayRandom();
+    else app.surface.window.OpenWindow("Select");
     return;
   }
   if (!unfinished) {
-    if (!app.cGamePlay.PlayFile(path, true)) app.cGamePlay.PlayRandom();
+    if (!app.cGamePlay.PlayFile(path, true)) app.surface.window.OpenWindow("Select");
     return;
   }
-  if (app.MsgBox(kQuestion, MsgStyle::YesNoQuestion) == Answer::Yes && app.cGamePlay.PlayFile(path, true)) {
-    GiveUpUnfinished(app);
+  const Answer answer = app.MsgBox(kQuestion, MsgStyle::YesNoQuestion);
+  if (app.motion.state() == Motion::State::Stopped) {
+    // Stopped with the question open: nothing was decided, so the unfinished game stays offered.
+    app.cRegistry.Set(setting::UnFin, 1);
     return;
   }
+  if (answer == Answer::Yes && PlayInsteadOfUnfinished(app, path)) return;
   ResumeUnfinished(app);
 }
 

@@ -3,6 +3,7 @@
 #include "engine/Numeric.h"
 #include "engine/mStudio.h"
 #include "lists/AutoSave.h"
+#include "lists/Favorites.h"
 #include "lists/GameNumbers.h"
 #include "lists/Pending.h"
 #include "lists/Recent.h"
@@ -77,12 +78,17 @@ bool cGamePlay::PlayRandom(const std::optional<std::string>& gName) {
 }
 
 bool cGamePlay::PlayString(const std::string& s) {
-  // Split at the last " - ", so a game whose name holds a "-" still plays from the list.
-  const auto cut = s.rfind(" - ");
-  if (cut == std::string::npos || cut == 0) return false;
-  const std::string number = s.substr(cut + 3);
-  if (!qv::GameNo::IsDigitText(number)) return false;
-  return StartGame(s.substr(0, cut), qv::GameNo::Typed(number), 0, 0, 0, 0);
+  const auto played = SplitPlayed(s);
+  return played && StartGame(played->first, played->second, 0, 0, 0, 0);
+}
+
+bool cGamePlay::PlayFavFile(const std::string& fName) {
+  const auto rec = ReadFavFile(fName);
+  if (!rec) {
+    app_.MsgBox("The favourite \"" + fName + "\" cannot be played: it holds no game.", MsgStyle::Stop);
+    return false;
+  }
+  return StartGame(rec->GameName, rec->GameNo, 0, 0, 0, 0);
 }
 
 std::optional<SavedGame> cGamePlay::ReadPlayable(const std::string& fName) {

@@ -31,6 +31,9 @@ class cGamePlay {
   // message before anything changes.
   bool PlayFile(const std::string& fName, bool bRecent);
   bool PlayPendFile(const std::string& fName);
+  // A new deal of a favourite's game and number; a record that does not read is refused
+  // with one message and the game on the table goes on.
+  bool PlayFavFile(const std::string& fName);
   void PauseGame(bool mPause);
   bool PauseStatus() const { return pauseStatus_; }
   void Unload();

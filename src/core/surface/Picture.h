@@ -8,9 +8,11 @@ namespace qv {
 // What a sprite shows. The core names pictures; the desktop paints them, and the
 // recording surface keeps the name so a test can see what a user would see.
 struct Picture {
-  enum Kind : int8_t { None, Face, Back, Marker };
+  enum Kind : int8_t { None, Face, Back, Marker, Preview, Panel, Icon };
   Kind kind = None;
   int16_t number = 0;
+  // The two parameters a preview is made from.
+  int16_t a = 0, b = 0;
 
   bool operator==(const Picture&) const = default;
   std::string Name() const {
@@ -18,6 +20,9 @@ struct Picture {
       case Face: return "face " + std::to_string(number);
       case Back: return "back " + std::to_string(number);
       case Marker: return "marker " + std::to_string(number);
+      case Preview: return "preview " + std::to_string(number) + " " + std::to_string(a) + " " + std::to_string(b);
+      case Panel: return "panel " + std::to_string(number);
+      case Icon: return "icon " + std::to_string(number);
       case None: break;
     }
     return "none";

@@ -18,6 +18,21 @@ class cImages {
   Picture PileMarker(int n) const { return {Picture::Marker, static_cast<int16_t>(n)}; }
   void EndMarkers() {}
 
+  // The selection dialog's pictures. A preview part is made from two rule parameters:
+  // 0 the reserve (piles, cards), 1 the foundations (base, cards), 2 the tableau (piles, suits).
+  enum PreviewPart : int16_t { PreviewReserve, PreviewGoal, PreviewTableau };
+  Picture PreviewPicture(PreviewPart part, int a, int b) const {
+    return {Picture::Preview, part, static_cast<int16_t>(a), static_cast<int16_t>(b)};
+  }
+  enum PanelPart : int16_t { SelectMaxPanel, SelectMinPanel, BlankPanel, BlankSubPanel };
+  Picture SelectMax() const { return {Picture::Panel, SelectMaxPanel}; }
+  Picture SelectMin() const { return {Picture::Panel, SelectMinPanel}; }
+  Picture BlankPicture() const { return {Picture::Panel, BlankPanel}; }
+  Picture BlankSubPicture() const { return {Picture::Panel, BlankSubPanel}; }
+  // The selection tree's icons.
+  enum IconPart : int16_t { FolderIcon, GameIcon, GameSelectedIcon, BulletIcon };
+  Picture TreeIcon(IconPart icon) const { return {Picture::Icon, icon}; }
+
   // Decks 1 to DeckCount, each in a group; deck 7 is the default.
   int DeckCount() const;
   int DeckGroup(int index) const;

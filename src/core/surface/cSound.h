@@ -25,6 +25,9 @@ class cSound {
   void GameStat() {}
   void SessionStat() {}
   void Players() {}
+  void AddFav() {}
+  void OrgFav() {}
+  void SelectDialog() {}
 };
 
 }  // namespace qv

@@ -1,0 +1,122 @@
+#include <gtest/gtest.h>
+
+#include "TestProgram.h"
+#include "lists/AutoSave.h"
+#include "lists/ChooseNumber.h"
+#include "lists/Favorites.h"
+#include "lists/Recent.h"
+#include "lists/mSelect.h"
+#include "settings/SettingKeys.h"
+
+namespace qv {
+namespace {
+
+TEST(NumberDialog, TheRangeIsTestedInAFloatAndTheTextGoesOnAsTyped) {
+  test::TestProgram t;
+  auto ok = [&](const std::string& s) { return AcceptedGameNo(*t.app, s).has_value(); };
+  EXPECT_EQ(NumberRangeText(*t.app), "0 and 999,999");
+  EXPECT_FALSE(ok("999999"));
+  EXPECT_TRUE(ok("999998"));
+  EXPECT_FALSE(ok("0"));
+  EXPECT_FALSE(ok(""));
+  EXPECT_FALSE(ok("1e3"));
+  EXPECT_FALSE(ok("-5"));
+  EXPECT_EQ(*AcceptedGameNo(*t.app, " 0012.5 "), GameNo::Typed("0012.5"));
+  t->cRegistry.Set(setting::RangeIndex, 9);
+  EXPECT_EQ(NumberRangeText(*t.app), "0 and 999,999,999");
+  EXPECT_FALSE(ok("999999998"));  // a float makes it 1,000,000,000
+  EXPECT_TRUE(ok("999999900"));
+  t->cRegistry.Set(setting::RangeIndex, 1);
+  EXPECT_EQ(NumberRangeText(*t.app), "0 and 9");
+  EXPECT_TRUE(ok("8"));
+  EXPECT_FALSE(ok("9"));
+}
+
+std::vector<std::string> Texts(const SelectNode& node, const std::string& indent = "") {
+  std::vector<std::string> texts;
+  for (const SelectNode& child : node.children) {
+    texts.push_back(indent + child.text + " [" + child.tag + "]");
+    for (const auto& t : Texts(child, indent + "  ")) texts.push_back(t);
+  }
+  return texts;
+}
+
+TEST(Selection, EachCategoryListsItsSourceAsItStands) {
+  test::TestProgram t;
+  using V = std::vector<std::string>;
+  auto texts = [&](const char* key) { return Texts(FillSelectTree(*t.app, key).root); };
+  t->cRegistry.RegSaveInt(section::HotGames, "Scarab", 1);
+  t.Deal("Scarab", 77);
+  ASSERT_TRUE(t->cEngine.SavetoFile(t->cData.SavedFolder() + "/mine.vq0"));
+  AddRecent(*t.app, kRecentSaved, t->cData.SavedFolder() + "/mine.vq0");
+  AddRecent(*t.app, kRecentSaved, t->cData.SavedFolder() + "/gone.vq0");
+  test::WriteFile(t->cData.SavedFolder() + "/bad.vq0", "junk");
+  ASSERT_TRUE(AutoSaveGame(*t.app, false, true));
+  ASSERT_TRUE(AutoSaveGame(*t.app, true, true));
+  ASSERT_TRUE(AddFavFile(*t.app));
+  ASSERT_TRUE(CreateFavFolder(*t.app, "Box"));
+  ASSERT_TRUE(AddFavFile(*t.app, t->cData.FavFolder() + "/Box/Named"));
+  EXPECT_EQ(texts("Std").size(), 7u);
+  EXPECT_EQ(texts("All"), texts("Std"));  // no created games yet
+  EXPECT_EQ(texts("Org"), V{});
+  EXPECT_EQ(texts("Hot"), V{"Scarab [Scarab]"});
+  EXPECT_EQ(texts("Save"), V{"Scarab - 77 (0%) [Scarab]"});
+  EXPECT_EQ(texts("rSave"), V{"Scarab - 77 (0%) [Scarab]"});
+  EXPECT_EQ(texts("Inc"), V{"Scarab-77 (0%) [Scarab]"});
+  EXPECT_EQ(texts("Fin"), V{"Scarab-77 [Scarab]"});  // no percentage
+  EXPECT_EQ(texts("rPlay"), V{"Scarab - 77 [Scarab]"});
+  EXPECT_EQ(texts("Fav"), (V{"Box []", "  Named [Scarab]", "Scarab - 77 [Scarab]"}));
+  const SelectTree fav = FillSelectTree(*t.app, "Fav");
+  EXPECT_EQ(fav.root.key, t->cData.FavFolder());
+  EXPECT_EQ(fav.root.text, "Favorites");
+  EXPECT_FALSE(FillSelectTree(*t.app, "Save").rootBold);
+  EXPECT_TRUE(FillSelectTree(*t.app, "Fin").rootBold);
+  // The last choice comes back while it is there; a gone one leaves the root chosen.
+  EXPECT_EQ(FillSelectTree(*t.app, "All").selected, "m");
+  StoreSelItem(*t.app, "Save", t->cData.SavedFolder() + "/mine.vq0");
+  EXPECT_EQ(FillSelectTree(*t.app, "Save").selected, t->cData.SavedFolder() + "/mine.vq0");
+  std::filesystem::remove(t->cData.SavedFolder() + "/mine.vq0");
+  EXPECT_EQ(FillSelectTree(*t.app, "Save").selected, "m");
+}
+
+TEST(Selection, DetailsShowTheFileOwnRulesAndLeaveTheTableAlone) {
+  test::TestProgram t;
+  test::PlayWithRules(t, {.HPiles = 8, .HAK = 1, .Suits = 1}, 9);  // a name the program does not know
+  const std::string file = t->cData.SavedFolder() + "/odd.vq0";
+  ASSERT_TRUE(t->cEngine.SavetoFile(file));
+  const std::string unknown = t->cGamePlay.GameName();
+  const SelectDetails d = DetailsOf(*t.app, "Save", file, unknown);
+  EXPECT_EQ(d.det[0], "Game Name :" + unknown);
+  EXPECT_EQ(d.det[5], "Time Taken : 0:00:00");
+  EXPECT_EQ(d.det[6], "Percentage Completed :0%");
+  EXPECT_EQ(d.sub[2], "No of Tableau Piles : 8");
+  EXPECT_EQ(d.sub[3].substr(0, 21), "Ace-King Wrapping  : ");
+  EXPECT_TRUE(t->cCustom.HoldsHeaderFor(unknown));  // Restart still deals it
+  const SelectDetails spider = DetailsOf(*t.app, "rPlay", "Spider - 0042", "Spider");
+  EXPECT_EQ(spider.det[1], "Game Number : 0042");
+  EXPECT_EQ(spider.det[2], "Game Type :Standard");
+  EXPECT_EQ(spider.sub[2], "No of Tableau Piles : 10");
+  EXPECT_EQ(spider.preview[2].picture, t->cImages.PreviewPicture(cImages::PreviewTableau, 10, spider.preview[2].picture.b));
+  EXPECT_EQ(spider.preview[1].x, 125);
+  EXPECT_TRUE(t->cCustom.HoldsHeaderFor(unknown));
+}
+
+TEST(Selection, PlayStartsEachKind) {
+  test::TestProgram t;
+  EXPECT_FALSE(PlaySelected(*t.app, "All", "m", ""));  // nothing chosen
+  ASSERT_TRUE(PlaySelected(*t.app, "All", "Coral", "Coral"));
+  EXPECT_EQ(t->cGamePlay.GameName(), "Coral");
+  EXPECT_FALSE(t->cGamePlay.GameNo().IsTyped());
+  ASSERT_TRUE(PlaySelected(*t.app, "rPlay", "Plaza - 12", "Plaza"));
+  EXPECT_EQ(t->cGamePlay.GameNo(), GameNo::Typed("12"));
+  const std::string file = t->cData.SavedFolder() + "/p.vq0";
+  ASSERT_TRUE(t->cEngine.SavetoFile(file));
+  ASSERT_TRUE(PlaySelected(*t.app, "Save", file, "Plaza"));
+  EXPECT_EQ(t->cGamePlay.Game_LoadingType(), 1);
+  ASSERT_TRUE(AddFavFile(*t.app));
+  ASSERT_TRUE(PlaySelected(*t.app, "Fav", t->cData.FavFolder() + "/Plaza - 12", "Plaza"));
+  EXPECT_EQ(t->cGamePlay.Game_LoadingType(), 0);
+}
+
+}  // namespace
+}  // namespace qv
