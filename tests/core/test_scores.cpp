@@ -76,6 +76,15 @@ TEST_F(Store, LinesKeepTheirFormAndBrokenOnesAreSkippedAlone) {
   EXPECT_NE(text.find(typed + "\r\n\"11/18/2026 11:06:40 AM\",\"Spider\",42,0,0,0,0\r\n"), std::string::npos);
 }
 
+TEST_F(Store, AScoreThatCannotBeWrittenIsToldOncePerRun) {
+  fs::create_directories(t->cScore.ScoreFile("Player1", FolderUse::Write));  // the name is taken by a folder
+  t.Deal("Spider", 42);
+  t->cScore.AddScore(0);
+  t->cScore.AddScore(1);
+  EXPECT_EQ(t.dialogs.shown.size(), 1u);
+  EXPECT_TRUE(fs::is_directory(t->cScore.ScoreFile("Player1")));
+}
+
 TEST_F(Store, SortTakesTheLaterOfEqualsAndFinSortKeepsZeroOutOfFreeSlots) {
   auto& s = t->cScore;
   std::string lines;
