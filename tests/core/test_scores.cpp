@@ -114,6 +114,12 @@ TEST_F(Store, SortTakesTheLaterOfEqualsAndFinSortKeepsZeroOutOfFreeSlots) {
   s.FinSort(true, false);
   EXPECT_EQ(s.TopItem(1).Time, 9);
   EXPECT_TRUE(s.TopItem(2).Date.empty());
+  // Won games of 0 points or fewer never reach the list by score.
+  Lines("Player1", ScoreLine(Rec(0, 1)) + ScoreLine(Rec(-5, 1)) + ScoreLine(Rec(1, 1)));
+  s.OpenAllScore();
+  s.Sort("", "", 1);
+  EXPECT_EQ(s.TopItem(1).Score, 1);
+  EXPECT_TRUE(s.TopItem(2).Date.empty());
   s.CloseScore();
   EXPECT_EQ(s.ScoreTop(), 0);
 }
