@@ -62,7 +62,8 @@ Commands:
 DATE is a date as the score files hold it, such as 11/17/2026 (default: today).
 Score files: "$XDG_DATA_HOME/Velmarin Works/Quorvale 6.0<player>.sre".
 
-deal, replay and the lists only look: they write no setting and no file.
+deal, replay, the lists and scores, top, gamestat and log only look: they write no
+setting and no file.
 
 A script has one command a line; blank lines and lines starting with # are skipped,
 and an argument with blanks goes in double quotes. It starts with no game on the

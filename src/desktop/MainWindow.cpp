@@ -1,7 +1,5 @@
 #include "MainWindow.h"
 
-#include "FinishDialog.h"
-
 #include <QCloseEvent>
 #include <algorithm>
 #include <QMenuBar>
@@ -9,6 +7,7 @@
 #include <QToolBar>
 
 #include "CardPainter.h"
+#include "FinishDialog.h"
 #include "QtSprites.h"
 #include "TableView.h"
 #include "Windows.h"

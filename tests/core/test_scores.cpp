@@ -76,6 +76,15 @@ TEST_F(Store, LinesKeepTheirFormAndBrokenOnesAreSkippedAlone) {
   EXPECT_NE(text.find(typed + "\r\n\"11/18/2026 11:06:40 AM\",\"Spider\",42,0,0,0,0\r\n"), std::string::npos);
 }
 
+TEST_F(Store, AScoreThatCannotBeWrittenIsToldOncePerRun) {
+  fs::create_directories(t->cScore.ScoreFile("Player1", FolderUse::Write));  // the name is taken by a folder
+  t.Deal("Spider", 42);
+  t->cScore.AddScore(0);
+  t->cScore.AddScore(1);
+  EXPECT_EQ(t.dialogs.shown.size(), 1u);
+  EXPECT_TRUE(fs::is_directory(t->cScore.ScoreFile("Player1")));
+}
+
 TEST_F(Store, SortTakesTheLaterOfEqualsAndFinSortKeepsZeroOutOfFreeSlots) {
   auto& s = t->cScore;
   std::string lines;
@@ -104,6 +113,12 @@ TEST_F(Store, SortTakesTheLaterOfEqualsAndFinSortKeepsZeroOutOfFreeSlots) {
   s.OpenAllScore();
   s.FinSort(true, false);
   EXPECT_EQ(s.TopItem(1).Time, 9);
+  EXPECT_TRUE(s.TopItem(2).Date.empty());
+  // Won games of 0 points or fewer never reach the list by score.
+  Lines("Player1", ScoreLine(Rec(0, 1)) + ScoreLine(Rec(-5, 1)) + ScoreLine(Rec(1, 1)));
+  s.OpenAllScore();
+  s.Sort("", "", 1);
+  EXPECT_EQ(s.TopItem(1).Score, 1);
   EXPECT_TRUE(s.TopItem(2).Date.empty());
   s.CloseScore();
   EXPECT_EQ(s.ScoreTop(), 0);
