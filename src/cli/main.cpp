@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "CliSurface.h"
+#include "Games.h"
 #include "Script.h"
 #include "StateJson.h"
 #include "lists/AutoSave.h"
@@ -33,9 +34,23 @@ Commands:
   recent N           A recent list as the File menu shows it, a JSON array in slot order:
                      0 played, 1 saved, 2 opened. A saved game that no longer reads, or
                      a game no longer in the game list, is left out.
+  games              Every game as a JSON array in id order: id, name, created, deck,
+                     hpiles, horder, hspace, hak, hmulti, suits, morder, and the file
+                     of a created game (null for a standard one).
+  rules GAME         The rules page of GAME, one text line each, in reading order.
+  create-game NAME PILES ORDER SPACE AK SUITS MORDER [--overwrite]
+                     Save a created game as the Game Editor does: PILES 6-10, ORDER 4
+                     (down regardless of suit) or 5 (any card), SPACE 0-12 (Ace to King)
+                     or 13 (any card), AK 0 or 1 (Ace-King wrapping), SUITS 0 one, 1 two,
+                     2 four, MORDER 0-4 (same suit, alternate colour, same colour, other
+                     suits, regardless of suit). An existing game is kept unless
+                     --overwrite is given.
+  delete-game NAME   Delete a created game (its question answered Yes). Its scores,
+                     saved games and favourites stay.
   --help             Show this text.
 
-deal, replay and the lists only look: they write no setting and no file.
+deal, replay, games, rules and the lists only look: they write no setting and no file.
+deal and run take created games by name as well.
 
 A script has one command a line; blank lines and lines starting with # are skipped,
 and an argument with blanks goes in double quotes. It starts with no game on the
@@ -56,7 +71,8 @@ table, reads and writes your settings as the program does, and runs:
 Places: CELL 0 tableau, 1 stock, 3 foundation; PILE and POS count from 0.
 A move the rules refuse, or a command that would be greyed, does nothing.
 
-Exit status: 0 done, 1 a file that cannot be read or written, 2 a usage error.
+Exit status: 0 done, 1 a file that cannot be read or written (or a created game
+refused), 2 a usage error.
 Settings: $XDG_CONFIG_HOME/Quorvale/6.0/quorvale.ini. Files: $XDG_DATA_HOME and the
 XDG documents folder.
 )";
@@ -116,6 +132,19 @@ int List(const std::vector<std::string>& args) {
   return qv::kOk;
 }
 
+int CreatedGames(const std::vector<std::string>& args) {
+  qv::IniSettingsStore file(qv::IniSettingsStore::DefaultPath());
+  qv::OverlaySettingsStore overlay(file);
+  const bool looks = args[0] == "games" || args[0] == "rules";
+  Headless h;
+  qv::Program app(h.Surface(), looks ? static_cast<qv::ISettingsStore&>(overlay) : file,
+                  qv::PlatformFolders::FromEnvironment());
+  if (args[0] == "games") return qv::PrintGames(app);
+  if (args[0] == "rules") return qv::PrintRules(app, args[1]);
+  if (args[0] == "create-game") return qv::CreateGame(app, h.dialogs, args);
+  return qv::DeleteGame(app, h.dialogs, args[1]);
+}
+
 int RunScript(const std::vector<std::string>& args) {
   std::ifstream file;
   if (args.size() == 2) {
@@ -144,5 +173,9 @@ int main(int argc, char** argv) {
   if (args[0] == "run" && args.size() <= 2) return RunScript(args);
   if ((args[0] == "autosave-list" || args[0] == "pending-list") && args.size() == 1) return List(args);
   if (args[0] == "recent" && args.size() == 2) return List(args);
+  if ((args[0] == "games" && args.size() == 1) || (args[0] == "rules" && args.size() == 2)) return CreatedGames(args);
+  if ((args[0] == "create-game" && (args.size() == 8 || args.size() == 9)) ||
+      (args[0] == "delete-game" && args.size() == 2))
+    return CreatedGames(args);
   return Fail(qv::kUsageError, "unknown command or wrong arguments; see quorvale-cli --help");
 }

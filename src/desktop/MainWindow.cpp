@@ -205,7 +205,11 @@ void MainWindow::SetStopEnabled(bool enabled) {
   toolbarItems_.value("Stop")->setEnabled(enabled);
 }
 
-void MainWindow::OpenWindow(const std::string& key) { windowOpener(QString::fromStdString(key)); }
+void MainWindow::OpenWindow(const std::string& key, bool modal) {
+  windowModal = modal;
+  windowOpener(QString::fromStdString(key));
+  windowModal = true;
+}
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   // The stop cannot be refused: the game on the table is kept or ended, then all goes. One

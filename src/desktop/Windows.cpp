@@ -12,6 +12,9 @@
 #include "AutoSaveDialog.h"
 #include "CardDeckDialog.h"
 #include "FileCommands.h"
+#include "GameStudioDialog.h"
+#include "NewGameWizard.h"
+#include "RulesDialog.h"
 #include "HotGamesDialog.h"
 #include "CardPainter.h"
 #include "MainWindow.h"
@@ -85,6 +88,10 @@ void OpenProgramWindow(MainWindow& main, const QString& key) {
   else if (key == "AutoSave") AutoSaveDialog(main.app(), &main).exec();
   else if (key == "OrgPend") PendingDialog(main.app(), &main).exec();
   else if (key == "Hot") HotGamesDialog(main.app(), &main).exec();
+  else if (key == "Rules") ShowRulesWindow(main, main.windowModal);
+  else if (key == "Wizard") NewGameWizard(main.app(), &main).exec();
+  else if (key == "Editor" && GameStudioDialog(main.app(), &main).exec() == GameStudioDialog::kWizard)
+    NewGameWizard(main.app(), &main).exec();
 }
 
 }  // namespace qv

@@ -6,6 +6,7 @@
 
 namespace qv {
 
+class IPictureBox;
 class Program;
 struct GameHeader;
 
@@ -26,6 +27,11 @@ class cCustom {
   void LoadGameFile(const GameHeader& header);
   // Names of the created games; element 0 is their count as text.
   std::vector<std::string> GetStudioGames() const;
+  // Writes the parameters held as the game GameName; false, after telling the user why,
+  // for a name that cannot be a file, an overwrite refused or a write that failed.
+  bool SaveStudioGame(const std::string& cGameName, bool mAdd, bool mGameEdit);
+  // The small picture of the parameters: reserve, foundation and tableau parts.
+  void Update_Pic(IPictureBox& pic) const;
 
   // True while the rule fields held came from a saved game's header for this very name,
   // which is what lets a game whose name is no longer known be dealt.
