@@ -39,7 +39,7 @@ GameStudioDialog::GameStudioDialog(Program& app, QWidget* parent) : QDialog(pare
   lvWiz_->setHeaderHidden(true);
   lvWiz_->setRootIsDecorated(false);
   lvWiz_->setSelectionMode(QAbstractItemView::NoSelection);
-  lvWiz_->setMinimumSize(460, 150);
+  lvWiz_->setMinimumSize(460, 120);
   details->addWidget(lvWiz_);
   pic1_ = new PreviewBox;
   details->addWidget(pic1_);

@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
 
 namespace qv {
 
@@ -22,7 +23,7 @@ bool Red(const QString& sign) { return sign == QString::fromUtf8("\u2665") || si
 
 void Caption(QPainter& p, const QRectF& r, const QString& text) {
   QFont f = p.font();
-  f.setPixelSize(std::max(8, static_cast<int>(r.height() * 0.22)));
+  f.setPixelSize(std::clamp(static_cast<int>(r.width() * 0.055), 8, 13));
   f.setBold(true);
   p.setFont(f);
   p.setPen(kText);
