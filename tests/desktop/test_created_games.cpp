@@ -4,6 +4,8 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
+#include <QTimer>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
@@ -19,6 +21,8 @@
 #include "TemporaryUserHome.h"
 #include "TestProgram.h"
 #include "created/GamFile.h"
+#include "lists/Recent.h"
+#include "session/FirstGame.h"
 #include "session/Commands.h"
 #include "settings/MemorySettingsStore.h"
 
@@ -42,6 +46,41 @@ void Create(test::TestProgram& t, const std::string& name, int piles) {
   t->cCustom.SaveStudioGame(name, true, false);
   t.dialogs.shown.clear();
 }
+// Acts on the modal windows as they open, one step each, in order. A step waits until the
+// window on top is the one it is for; its action runs from a timer of its own, since the
+// driver's timer does not fire again while an action of it keeps a window open.
+class ModalDriver {
+ public:
+  struct Step {
+    std::function<bool(QWidget*)> isFor;
+    std::function<void(QWidget*)> act;
+  };
+  explicit ModalDriver(std::vector<Step> steps) : steps_(std::move(steps)) {
+    QObject::connect(&timer_, &QTimer::timeout, [this] {
+      QWidget* modal = QApplication::activeModalWidget();
+      if (!modal || next_ == steps_.size() || !steps_[next_].isFor(modal)) return;
+      QTimer::singleShot(0, modal, [modal, act = steps_[next_++].act] { act(modal); });
+    });
+    timer_.start(20);
+  }
+  bool Done() const { return next_ == steps_.size(); }
+
+ private:
+  std::vector<Step> steps_;
+  size_t next_ = 0;
+  QTimer timer_;
+};
+ModalDriver::Step Press(const char* window, const char* button) {
+  return {[=](QWidget* m) { return m->objectName() == window; }, [=](QWidget* m) { Click(*m, button); }};
+}
+ModalDriver::Step Reply(QMessageBox::StandardButton button, const QString& text) {
+  return {[=](QWidget* m) {
+            auto* box = qobject_cast<QMessageBox*>(m);
+            return box && box->text() == text;
+          },
+          [=](QWidget* m) { qobject_cast<QMessageBox*>(m)->button(button)->click(); }};
+}
+
 const std::string kSingleSuit = "Quorvale will change Multi Card order to Down Same Suit since it is a Single Suit Game ";
 }  // namespace
 
@@ -212,6 +251,65 @@ class CreatedGamesTest : public QObject {
     QCOMPARE(Text(*rules, "lbMOrder"), QString("Down Alternate Color"));
     w.Action("Rules")->trigger();  // the page is opened anew, never twice
     QCOMPARE(w.findChildren<RulesDialog*>("frmRules").size(), 1);
+  }
+
+  // The whole way in the real window: made in the editor, played, its page on F1; after a
+  // new start listed, back on the table and among the recent games; deleted, its saved
+  // game still plays.
+  void realWindowMakesPlaysKeepsAndDeletesAGame() {
+    MemorySettingsStore store;
+    auto w = std::make_unique<MainWindow>(store);
+    w->show();
+    w->Load();
+    {
+      ModalDriver drive({Press("frmGameStudio", "cmdAdd"),
+                         {[](QWidget* m) { return m->objectName() == "frmAddGame"; },
+                          [](QWidget* m) {
+                            Get<QLineEdit>(*m, "txtName")->setText("Six Easy");
+                            Get<QComboBox>(*m, "imcHPiles")->setCurrentIndex(0);
+                            Get<QComboBox>(*m, "imcSuits")->setCurrentIndex(0);
+                            Click(*m, "cmdAdd");
+                          }},
+                         Reply(QMessageBox::Ok, "Successfully Saved Game : Six Easy"), Press("frmGameStudio", "cmdPlay")});
+      w->Action("Editor")->trigger();
+      QVERIFY(drive.Done());
+    }
+    Program* app = &w->app();
+    QCOMPARE(app->cGamePlay.GameName(), std::string("Six Easy"));
+    QCOMPARE(app->cGames.Piles(0), 6);
+    QCOMPARE(app->cGames.GetCordX(0, 0, 0) - app->cGames.GetCordX(1, 0, 0), 2330 - 532);
+    QCOMPARE(app->cGames.SuitType(), 0);
+    w->Action("Rules")->trigger();
+    QCOMPARE(Text(*w->findChild<RulesDialog*>("frmRules"), "lbTab"), QString("(6 Piles )"));
+    const std::string played = "Six Easy - " + app->cGamePlay.GameNo().Text();
+
+    w->close();
+    w = std::make_unique<MainWindow>(store);
+    w->show();
+    w->Load();
+    app = &w->app();
+    FirstGame(*app, "");
+    QCOMPARE(app->cGamePlay.GameName(), std::string("Six Easy"));
+    QCOMPARE(app->cGames.Piles(0), 6);
+    QCOMPARE(RecentMenuEntries(*app, kRecentPlayed).front(), played);
+    const std::string saved = (home_.path() + "/six.vq0").toStdString();
+    QVERIFY(app->cEngine.SavetoFile(saved));
+    ExecCommand(*app, "Close");
+    {
+      ModalDriver drive({{[](QWidget* m) {
+                            return m->objectName() == "frmGameStudio" &&
+                                   Get<QTreeWidget>(*m, "lvGames")->topLevelItem(0)->text(0) == "Six Easy";
+                          },
+                          [](QWidget* m) { Click(*m, "cmdDelete"); }},
+                         Reply(QMessageBox::Yes, "Are you sure you want to delete game : Six Easy ?"),
+                         Press("frmGameStudio", "cmdClose")});
+      w->UpdateCommands();  // as the main timer would after the cards stopped moving
+      w->Action("Editor")->trigger();
+      QVERIFY(drive.Done());
+    }
+    QVERIFY(!app->cData.GameExists("Six Easy"));
+    QVERIFY(app->cGamePlay.PlayFile(saved, false));
+    QCOMPARE(app->cGames.Piles(0), 6);
   }
 };
 
