@@ -40,6 +40,7 @@ GameStudioDialog::GameStudioDialog(Program& app, QWidget* parent) : QDialog(pare
   lvWiz_->setRootIsDecorated(false);
   lvWiz_->setSelectionMode(QAbstractItemView::NoSelection);
   lvWiz_->setMinimumSize(460, 120);
+  lvWiz_->setMaximumHeight(140);  // six rows; the preview takes the rest
   details->addWidget(lvWiz_);
   pic1_ = new PreviewBox;
   details->addWidget(pic1_);

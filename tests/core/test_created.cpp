@@ -61,11 +61,12 @@ TEST(CreatedGameFile, ListingOrderCaseHiddenAndBadFiles) {
   const std::string good = "\"g\"\r\n6,4,13,0,1,0,0\r\n";
   for (const char* f : {"b.gam", "A.GAM", ".hidden.gam", "c.Gam", "c.gam", "abcGAM", "notes.txt"})
     WriteGam(t, f, good);
-  const std::pair<const char*, const char*> bad[] = {
+  const std::pair<const char*, std::string> bad[] = {
       {"short.gam", "\"g\"\r\n"},           {"text.gam", "\"g\"\r\n6,4,x,0,1,0,0\r\n"},
       {"piles.gam", "\"g\"\r\n11,4,13,0,1,0,0\r\n"}, {"order.gam", "\"g\"\r\n6,6,13,0,1,0,0\r\n"},
       {"space.gam", "\"g\"\r\n6,4,14,0,1,0,0\r\n"},  {"suits.gam", "\"g\"\r\n6,4,13,0,1,3,0\r\n"},
-      {"eight.gam", "\"g\"\r\n6,4,13,0,1,0,0,1\r\n"}, {"name.gam", "g\r\n6,4,13,0,1,0,0\r\n"}};
+      {"eight.gam", "\"g\"\r\n6,4,13,0,1,0,0,1\r\n"}, {"name.gam", "g\r\n6,4,13,0,1,0,0\r\n"},
+      {"huge.gam", good + std::string(5000, ' ')}};
   for (const auto& [f, text] : bad) WriteGam(t, f, text);
   t->cData.Refresh_NewGames();
   EXPECT_EQ(t->cCustom.GetStudioGames(), (std::vector<std::string>{"4", ".hidden", "A", "b", "c"}));
@@ -80,7 +81,8 @@ TEST(CreatedGameFile, ListingOrderCaseHiddenAndBadFiles) {
 
 TEST(CreatedGameFile, SaveRefusesBadNamesAndAsksBeforeOverwriting) {
   test::TestProgram t;
-  for (const std::string& name : {std::string(), std::string("a/b"), std::string("x?"), std::string(181, 'n')}) {
+  for (const std::string& name : {std::string(), std::string("a/b"), std::string("x?"), std::string(181, 'n'),
+                                  std::string("two\nlines")}) {
     t.dialogs.shown.clear();
     EXPECT_FALSE(t->cCustom.SaveStudioGame(name, true, false));
     EXPECT_EQ(t->cCustom.GameName, name);  // stored before the check

@@ -46,10 +46,22 @@ std::optional<int16_t> SmallInt(const RecordField& f, int lo, int hi) {
   return static_cast<int16_t>(*v);
 }
 
-bool Reads(const fs::path& path) {
+// A game file is a few dozen bytes: anything far larger is no game and is not read whole.
+constexpr uintmax_t kMaxFileBytes = 4096;
+
+}  // namespace
+
+std::optional<GamRules> ReadGamFile(const std::string& path) {
+  std::error_code ec;
+  const uintmax_t size = fs::file_size(path, ec);
+  if (ec || size > kMaxFileBytes) return std::nullopt;
   const auto text = ReadWholeFile(path);
-  return text && ParseGamFile(*text);
+  return text ? ParseGamFile(*text) : std::nullopt;
 }
+
+namespace {
+
+bool Reads(const fs::path& path) { return ReadGamFile(path.string()).has_value(); }
 
 }  // namespace
 
@@ -78,7 +90,11 @@ std::optional<GamRules> ParseGamFile(std::string_view raw) {
   return GamRules{(*name)[0].text, v[0], v[1], v[2], v[3], v[4], v[5], v[6]};
 }
 
-bool GameNameFits(std::string_view name) { return name.size() <= kMaxNameBytes; }
+bool GameNameFits(std::string_view name) {
+  // A line end or another control character would break the file's first record.
+  return name.size() <= kMaxNameBytes &&
+         std::none_of(name.begin(), name.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; });
+}
 
 std::vector<std::string> GamFilesOf(const std::string& folder, const std::string& name) {
   std::vector<std::string> files;

@@ -22,8 +22,11 @@ constexpr std::string_view kGamExt = ".gam";
 std::string FormatGamFile(const cCustom& c);
 // Only a name and seven whole numbers that describe a table read; anything else is no game.
 std::optional<GamRules> ParseGamFile(std::string_view text);
+// The game in a file; std::nullopt for a file that is missing, far too large or no game.
+std::optional<GamRules> ReadGamFile(const std::string& path);
 // Whether the files made from a name (its .gam, its saved and auto-saved games, their
-// temporary files) stay within the file system's limit on a file name.
+// temporary files) stay within the file system's limit on a file name, and whether it can
+// stand on one line of its file.
 bool GameNameFits(std::string_view name);
 
 // The files of a game in a folder: "<name>" and the extension in any case, the exact

@@ -2,7 +2,6 @@
 #include "created/GamFile.h"
 #include "engine/cCustom.h"
 #include "lists/ValidName.h"
-#include "session/AtomicFile.h"
 #include "session/Program.h"
 #include "surface/PictureBox.h"
 
@@ -10,8 +9,7 @@ namespace qv {
 
 bool cCustom::LoadStudioFile(const std::string& gName) {
   for (const std::string& path : GamFilesOf(app_->cData.GamesFolder(FolderUse::Read), gName)) {
-    const auto text = ReadWholeFile(path);
-    const auto rules = text ? ParseGamFile(*text) : std::nullopt;
+    const auto rules = ReadGamFile(path);
     if (!rules) continue;
     // The name held inside the file, not the one asked for.
     GameName = rules->GameName;
