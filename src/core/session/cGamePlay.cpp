@@ -19,14 +19,9 @@ namespace {
 constexpr const char* kDefaultGame = "Spider";
 }
 
-bool cGamePlay::Dealable(const std::string& name) const {
-  // A name in no list deals only with the rule fields a saved game's header gave for it,
-  // or, for a restart, with those the game on the table was dealt with.
-  return app_.cData.GameExists(name) || app_.cCustom.HoldsHeaderFor(name) || (status_ == 1 && name == gameName_);
-}
-
-// Fills cCustom for a deal of name: its list entry, else a header's fields, else (restart
-// of a game since deleted) the fields of the game on the table.
+// Fills cCustom for a deal of name: a game of the list, else the fields a saved game's
+// header gave for this very name, else (a restart of a game deleted since) the fields the
+// game on the table was dealt with. False for any other name.
 bool cGamePlay::LoadRules(const std::string& name) {
   if (app_.cCustom.Init(name) || app_.cCustom.HoldsHeaderFor(name)) return true;
   if (status_ != 1 || name != gameName_ || !dealt_) return false;
@@ -38,7 +33,7 @@ bool cGamePlay::StartGame(const std::string& cGameName, const qv::GameNo& cGameN
                           int16_t cScore, int16_t cRedealsComp) {
   Motion::Step step(app_.motion);
   if (!step) return false;
-  if (!Dealable(cGameName) || !LoadRules(cGameName)) {
+  if (!LoadRules(cGameName)) {
     app_.MsgBox("The game \"" + cGameName + "\" is not in the list of games, so it cannot be dealt.", MsgStyle::Stop);
     return false;
   }

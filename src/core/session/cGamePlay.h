@@ -75,7 +75,6 @@ class cGamePlay {
 
  private:
   std::optional<SavedGame> ReadPlayable(const std::string& fName);
-  bool Dealable(const std::string& name) const;
   bool LoadRules(const std::string& name);
 
   Program& app_;
