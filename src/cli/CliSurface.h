@@ -14,7 +14,7 @@ class CliDialogs : public IDialogs {
  public:
   Answer MsgBox(const std::string& text, MsgStyle style, const std::string& /*title*/) override {
     messages.push_back(text);
-    return style == MsgStyle::YesNoStop || style == MsgStyle::YesNoQuestion ? Answer::No : Answer::Ok;
+    return style == MsgStyle::YesNoStop || style == MsgStyle::YesNoQuestion ? questionAnswer : Answer::Ok;
   }
   // Prints and forgets what was shown.
   void Flush() {
@@ -22,6 +22,7 @@ class CliDialogs : public IDialogs {
     messages.clear();
   }
   std::vector<std::string> messages;
+  Answer questionAnswer = Answer::No;  // a command that confirms by itself sets Yes
 };
 
 }  // namespace qv

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "CliSurface.h"
+#include "Games.h"
 #include "Script.h"
 #include "ScoreCommands.h"
 #include "SelectJson.h"
@@ -57,13 +58,26 @@ Commands:
   select KEY [ITEM]  A category of the game selection as it fills (KEY: Org, Std, All,
                      Pend, Fav, Hot, Inc, Fin, Save, rSave, rOpen, rPlay), as JSON; with
                      ITEM (a node's key), that entry's details and rules in short.
+  games              Every game as a JSON array in id order: id, name, created, deck,
+                     hpiles, horder, hspace, hak, hmulti, suits, morder, and the file
+                     of a created game (null for a standard one).
+  rules GAME         The rules page of GAME, one text line each, in reading order.
+  create-game NAME PILES ORDER SPACE AK SUITS MORDER [--overwrite]
+                     Save a created game as the Game Editor does: PILES 6-10, ORDER 4
+                     (down regardless of suit) or 5 (any card), SPACE 0-12 (Ace to King)
+                     or 13 (any card), AK 0 or 1 (Ace-King wrapping), SUITS 0 one, 1 two,
+                     2 four, MORDER 0-4 (same suit, alternate colour, same colour, other
+                     suits, regardless of suit). An existing game is kept unless
+                     --overwrite is given.
+  delete-game NAME   Delete a created game (its question answered Yes). Its scores,
+                     saved games and favourites stay.
   --help             Show this text.
 
 DATE is a date as the score files hold it, such as 11/17/2026 (default: today).
 Score files: "$XDG_DATA_HOME/Velmarin Works/Quorvale 6.0<player>.sre".
 
-deal, replay, the lists and scores, top, gamestat and log only look: they write no
-setting and no file.
+deal, replay, games, rules, the lists and scores, top, gamestat and log only look: they
+write no setting and no file. deal and run take created games by name as well.
 
 A script has one command a line; blank lines and lines starting with # are skipped,
 and an argument with blanks goes in double quotes. It starts with no game on the
@@ -91,7 +105,8 @@ A move the rules refuse, or a command that would be greyed, does nothing.
 A won game is recorded as the window records it, and "Congrats" closes as by "Close"
 (keeping the game in the saved-games folder when "Save this Game" is on).
 
-Exit status: 0 done, 1 a file that cannot be read or written, 2 a usage error.
+Exit status: 0 done, 1 a file that cannot be read or written (or a created game
+refused), 2 a usage error.
 Settings: $XDG_CONFIG_HOME/Quorvale/6.0/quorvale.ini. Files: $XDG_DATA_HOME and the
 XDG documents folder.
 )";
@@ -172,6 +187,19 @@ int Scores(const std::vector<std::string>& args) {
   return status;
 }
 
+int CreatedGames(const std::vector<std::string>& args) {
+  qv::IniSettingsStore file(qv::IniSettingsStore::DefaultPath());
+  qv::OverlaySettingsStore overlay(file);
+  const bool looks = args[0] == "games" || args[0] == "rules";
+  Headless h;
+  qv::Program app(h.Surface(), looks ? static_cast<qv::ISettingsStore&>(overlay) : file,
+                  qv::PlatformFolders::FromEnvironment());
+  if (args[0] == "games") return qv::PrintGames(app);
+  if (args[0] == "rules") return qv::PrintRules(app, args[1]);
+  if (args[0] == "create-game") return qv::CreateGame(app, h.dialogs, args);
+  return qv::DeleteGame(app, h.dialogs, args[1]);
+}
+
 int RunScript(const std::vector<std::string>& args) {
   std::ifstream file;
   if (args.size() == 2) {
@@ -204,5 +232,9 @@ int main(int argc, char** argv) {
   if (qv::IsScoreCommand(args[0])) return Scores(args);
   if (args[0] == "favorites" && args.size() == 1) return List(args);
   if (args[0] == "select" && (args.size() == 2 || args.size() == 3)) return List(args);
+  if ((args[0] == "games" && args.size() == 1) || (args[0] == "rules" && args.size() == 2)) return CreatedGames(args);
+  if ((args[0] == "create-game" && (args.size() == 8 || args.size() == 9)) ||
+      (args[0] == "delete-game" && args.size() == 2))
+    return CreatedGames(args);
   return Fail(qv::kUsageError, "unknown command or wrong arguments; see quorvale-cli --help");
 }

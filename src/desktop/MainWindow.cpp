@@ -208,7 +208,11 @@ void MainWindow::SetStopEnabled(bool enabled) {
   toolbarItems_.value("Stop")->setEnabled(enabled);
 }
 
-void MainWindow::OpenWindow(const std::string& key) { windowOpener(QString::fromStdString(key)); }
+void MainWindow::OpenWindow(const std::string& key, bool modal) {
+  windowModal = modal;
+  windowOpener(QString::fromStdString(key));
+  windowModal = true;
+}
 
 void MainWindow::ShowFinish() {
   FinishDialog finish(*app_, this);

@@ -44,6 +44,8 @@ class MainWindow : public QMainWindow, public IWindow {
   void UpdateCommands();
   // Opens the window of a key; tests put their own opener here to see which key it was.
   std::function<void(const QString&)> windowOpener;
+  // Whether the window being opened blocks: false for the rules page beside the table.
+  bool windowModal = true;
 
   // The surface the core asks for.
   void SetTitle(const std::string& title) override;
@@ -52,7 +54,7 @@ class MainWindow : public QMainWindow, public IWindow {
   void ShowPaused(bool paused) override;
   void ShowFinish() override;
   void SetStopEnabled(bool enabled) override;
-  void OpenWindow(const std::string& key) override;
+  void OpenWindow(const std::string& key, bool modal = true) override;
   void CloseMain() override { close(); }
   void RefreshMenus() override;
 

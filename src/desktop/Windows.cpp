@@ -16,6 +16,9 @@
 #include "FileCommands.h"
 #include "GameStatDialog.h"
 #include "HighScoreDialog.h"
+#include "GameStudioDialog.h"
+#include "NewGameWizard.h"
+#include "RulesDialog.h"
 #include "HotGamesDialog.h"
 #include "LogStatDialog.h"
 #include "CardPainter.h"
@@ -103,6 +106,10 @@ void OpenProgramWindow(MainWindow& main, const QString& key) {
   else if (key == "SelNum") ChooseDialog(main.app(), &main).exec();
   else if (key == "AddFav") AddFavDialog(main.app(), &main).exec();
   else if (key == "OrgFav") OrgFavDialog(main.app(), &main).exec();
+  else if (key == "Rules") ShowRulesWindow(main, main.windowModal);
+  else if (key == "Wizard") NewGameWizard(main.app(), &main).exec();
+  else if (key == "Editor" && GameStudioDialog(main.app(), &main).exec() == GameStudioDialog::kWizard)
+    NewGameWizard(main.app(), &main).exec();
 }
 
 }  // namespace qv

@@ -60,7 +60,7 @@ Json Parse(const std::string& t, size_t* at = nullptr) {
   }
   v.text = t.substr(p, end - p);
   p = end;
-  static const std::regex scalar(R"(true|false|-?[0-9]+|".*")");
+  static const std::regex scalar(R"(true|false|null|-?[0-9]+|".*")");
   if (!std::regex_match(v.text, scalar)) throw std::runtime_error("not a value: " + v.text);
   return v;
 }
@@ -314,6 +314,38 @@ TEST_F(Cli, AScriptedWinIsRecordedAndThePlayersCommandsMoveItsFile) {
   EXPECT_EQ(Tool("players delete Bea").err, "quorvale-cli: The current player cannot be deleted.\n");
   const Outcome report = Tool("export");
   EXPECT_NE(report.out.find("Bea            1             1             0"), std::string::npos) << report.out;
+}
+
+// A created game made, listed, dealt, read as rules, kept from an overwrite, and deleted.
+TEST_F(Cli, CreatedGamesFromCreateToDelete) {
+  const Outcome made = Tool("create-game 'Six, Easy' 6 4 12 0 0 2");  // one suit: the multi order falls back
+  ASSERT_EQ(made.status, 0) << made.err;
+  EXPECT_EQ(made.err, "quorvale-cli: Quorvale will change Multi Card order to Down Same Suit since it is a Single "
+                      "Suit Game \nquorvale-cli: Successfully Saved Game : Six, Easy\n");
+  const Json games = Parse(Tool("games").out);
+  ASSERT_EQ(games.size(), 8u);
+  EXPECT_EQ(games[0]["file"].text, "null");
+  const Json& g = games[7];
+  EXPECT_EQ(std::tuple(g["id"].text, g["name"].text, g["created"].text, g["hpiles"].text, g["hspace"].text,
+                       g["suits"].text, g["morder"].text),
+            std::tuple("8", R"("Six, Easy")", "true", "6", "12", "0", "0"));
+  EXPECT_TRUE(g["file"].text.ends_with(R"(/Custom Games/Six, Easy.gam")"));
+  EXPECT_EQ(Parse(Tool("deal 'Six, Easy' 1").out)["tableau"].size(), 6u);
+  const Outcome kept = Tool("create-game 'Six, Easy' 7 4 13 0 2 0");
+  EXPECT_EQ(kept.status, 1);
+  EXPECT_NE(kept.err.find("Another Game exists with the same name. Do you want to overwrite ?"), std::string::npos);
+  EXPECT_EQ(Tool("create-game 'Six, Easy' 7 4 13 0 2 0 --overwrite").status, 0);
+  const std::string rules = Tool("rules 'Six, Easy'").out;
+  EXPECT_TRUE(rules.starts_with("Six, Easy\n2 Decks (104 cards)\nObject : To build 8 sets")) << rules;
+  EXPECT_NE(rules.find("\nTableau (7 Piles )\nBuild Tableau Down Regardless of Suit\n"), std::string::npos);
+  EXPECT_NE(rules.find("\nSpaces in tableau may be filled with Any Card\nStock \n"), std::string::npos);
+  EXPECT_NE(Tool("rules Scarab").out.find("only if they are in sequence Down Regardless of Suit\n"), std::string::npos);
+  EXPECT_EQ(Tool("create-game 'a/b' 6 4 13 0 2 0").err, "quorvale-cli: Please Enter a valid Game Name\n");
+  EXPECT_EQ(Tool("create-game Big 11 4 13 0 2 0").status, 2);
+  const Outcome gone = Tool("delete-game 'Six, Easy'");
+  EXPECT_EQ(gone.err, "quorvale-cli: Are you sure you want to delete game : Six, Easy ?\n");
+  EXPECT_EQ(Parse(Tool("games").out).size(), 7u);
+  EXPECT_EQ(Tool("delete-game 'Six, Easy'").status, 2);
 }
 
 }  // namespace

@@ -110,7 +110,7 @@ TEST_F(IniSettingsTest, RefusedWriteAnswersFalseAndKeepsWhatIsOnDisk) {
   Put("[General]\r\nUnFin=1\r\n");
   IniSettingsStore store(file_);
   // Names and texts that would not read back are refused.
-  for (const auto& [section, key] : {std::pair{"General", "a=b"}, {"General", " padded"}, {"Gen\neral", "UnFin"}})
+  for (const auto& [section, key] : {std::pair{"General", ""}, {"Gen\neral", "UnFin"}})
     EXPECT_FALSE(store.WriteInt(section, key, 2)) << key;
   EXPECT_FALSE(store.WriteText("General", "Name", "\xE9"));
   EXPECT_NE(store.LastError(), "");
@@ -179,6 +179,21 @@ TEST_F(IniSettingsTest, AWriteWaitsWhileAnotherHoldsTheLock) {
   close(held);
   writer.join();
   EXPECT_EQ(Disk(), "[General]\r\nUnFin=1\r\n");
+}
+
+// Hot Games keys a section by game name, and every valid name must read back: a key that
+// would not read bare is quoted, as texts are, and plain keys stay as they were.
+TEST_F(IniSettingsTest, KeysThatWouldNotReadBareAreQuoted) {
+  Put("[HotGames]\r\nSpider=1\r\n");
+  const char* const keys[] = {" a, b = c ", "=", "[x]", ";x", "#x", "\"q\"", "  ", "back\\slash"};
+  {
+    IniSettingsStore store(file_);
+    for (const char* key : keys) EXPECT_TRUE(store.WriteInt("HotGames", key, 1)) << key;
+  }
+  EXPECT_TRUE(Disk().starts_with("[HotGames]\r\nSpider=1\r\n\" a, b = c \"=1\r\n\"=\"=1\r\n")) << Disk();
+  IniSettingsStore again(file_);
+  for (const char* key : keys) EXPECT_EQ(again.ReadInt("HotGames", key), 1) << key;
+  EXPECT_EQ(again.ReadInt("HotGames", "Spider"), 1);
 }
 
 TEST(IniSettingsDefaultPath, IgnoresARelativeXdgConfigHome) {  // it would follow the working folder

@@ -13,12 +13,6 @@ bool cCustom::Init(const std::string& gName) {
   return loaded;
 }
 
-// Created games join the game list with the game editor; until then no name is a created
-// game, so this is never asked and finds nothing.
-bool cCustom::LoadStudioFile(const std::string& /*gName*/) { return false; }
-
-std::vector<std::string> cCustom::GetStudioGames() const { return {"0"}; }
-
 void cCustom::Home(int16_t cHPiles, int32_t cHOrder, int16_t cHSpace, int16_t cHAK, int16_t cHMulti, int32_t cSuits,
                    int32_t cMOrder) {
   HPiles = cHPiles;

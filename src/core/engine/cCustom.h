@@ -9,6 +9,7 @@
 
 namespace qv {
 
+class IPictureBox;
 class Program;
 struct GameHeader;
 
@@ -29,6 +30,11 @@ class cCustom {
   void LoadGameFile(const GameHeader& header);
   // Names of the created games; element 0 is their count as text.
   std::vector<std::string> GetStudioGames() const;
+  // Writes the parameters held as the game GameName; false, after telling the user why,
+  // for a name that cannot be a file, an overwrite refused or a write that failed.
+  bool SaveStudioGame(const std::string& cGameName, bool mAdd, bool mGameEdit);
+  // The small picture of the parameters: reserve, foundation and tableau parts.
+  void Update_Pic(IPictureBox& pic) const;
 
   // The small preview of the parameters held: three pictures and where they go, in units
   // of a 250 by 72 box (the first row is 125 by 36 each).

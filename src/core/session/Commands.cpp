@@ -70,9 +70,7 @@ void ExecCommand(Program& app, const std::string& key) {
     Motion::Step step(app.motion);
     if (!step || RunSessionCommand(app, key)) return;
   }
-  // The rules view of a running game comes with the created games; until then Rules
-  // opens the help, as it does with no game on the table.
-  if (key == "Rules") return app.surface.window.OpenWindow("Contents");
+  if (key == "Rules") return ShowGameRules(app);
   if (key == "MovesMan" && app.cEngine.GetTransTop() <= 0) return;
   if (key == "AddFav" && app.cGamePlay.Game_Status() == 0) return;
   app.surface.window.OpenWindow(key);
@@ -135,6 +133,11 @@ void ToggleAutoPlay(Program& app) {
 
 void ToggleToolbar(Program& app) {
   app.cRegistry.Set(setting::ShowToolbar, app.cRegistry.Get(setting::ShowToolbar) == 1 ? 0 : 1);
+}
+
+void ShowGameRules(Program& app) {
+  if (app.cGamePlay.Game_Running()) app.cData.ShowRules(app.cGamePlay.GameName(), 0);
+  else app.cData.ShowContents();
 }
 
 bool ButtonShown(const cRegistry& reg, int id) {

@@ -27,6 +27,8 @@ void ReplayTick(Program& app, bool forward);
 void TogglePause(Program& app);
 void ToggleAutoPlay(Program& app);
 void ToggleToolbar(Program& app);
+// F1: the rules of the game that runs, beside the table; with none running, the help.
+void ShowGameRules(Program& app);
 
 // The toolbar as the user chose it: a button by its setting (or its default), Editor and
 // Wizard always, a separator when a button of the group before it shows.

@@ -106,6 +106,16 @@ void cData::Refresh_NewGames() {
   for (int n = 1; n <= count; ++n) SetGame(stdGames_ + n, created[n], true, 2);
 }
 
+void cData::ShowRules(const std::string& gName, int iModal) {
+  const auto& dealt = app_.cGamePlay.DealtRules();
+  if (!app_.cCustom.Init(gName) && app_.cGamePlay.Game_Status() != 0 && dealt && app_.cGamePlay.GameName() == gName)
+    app_.cCustom = *dealt;
+  app_.cSound.Rules();
+  app_.surface.window.OpenWindow("Rules", iModal == 1);
+}
+
+void cData::ShowContents() { app_.surface.window.OpenWindow("Contents"); }
+
 void FillProductData(cData& data) {
   data.InitCD("Quorvale", "6.0", kStandardGames, "quorvale.chm", "vq");
   for (int id = 1; id <= kStandardGames; ++id) data.SetGame(id, kStandardGameNames[id - 1], false, 2);

@@ -59,6 +59,10 @@ class cData {
   const std::string& SesStartTime() const { return sesStartTime_; }
   void SesStartTime(const std::string& t) { sesStartTime_ = t; }
   void Refresh_NewGames();
+  // The rules page of a game, beside the table or (iModal 1) blocking; the game on the table
+  // shows the rules it was dealt with even when its created game is gone.
+  void ShowRules(const std::string& gName, int iModal);
+  void ShowContents();
 
  private:
   std::string SubFolder(const std::string& parent, const std::string& name, FolderUse use) const;

@@ -114,8 +114,7 @@ int cEngine::TotalGoalCards() const {
 bool cEngine::SavetoFile(const std::string& fName, std::string* error) {
   auto& gp = app_.cGamePlay;
   // The rule fields written are those of the game on the table, whatever was browsed since.
-  app_.cCustom.Init(gp.GameName());
-  const cCustom& c = app_.cCustom;
+  const cCustom& c = gp.DealtRules() ? *gp.DealtRules() : app_.cCustom;
   GameHeader h;
   h.GameName = gp.GameName();
   h.GameNo = gp.GameNo();

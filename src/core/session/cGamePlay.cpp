@@ -21,19 +21,25 @@ namespace {
 constexpr const char* kDefaultGame = "Spider";
 }
 
-bool cGamePlay::Dealable(const std::string& name) const {
-  // A name in no list deals only with the rule fields a saved game's header gave for it.
-  return app_.cData.GameExists(name) || app_.cCustom.HoldsHeaderFor(name);
+// Fills cCustom for a deal of name: a game of the list, else the fields a saved game's
+// header gave for this very name, else (a restart of a game deleted since) the fields the
+// game on the table was dealt with. False for any other name.
+bool cGamePlay::LoadRules(const std::string& name) {
+  if (app_.cCustom.Init(name) || app_.cCustom.HoldsHeaderFor(name)) return true;
+  if (status_ != 1 || name != gameName_ || !dealt_) return false;
+  app_.cCustom = *dealt_;
+  return true;
 }
 
 bool cGamePlay::StartGame(const std::string& cGameName, const qv::GameNo& cGameNo, int cLoadType, int32_t cTime,
                           int16_t cScore, int16_t cRedealsComp) {
   Motion::Step step(app_.motion);
   if (!step) return false;
-  if (!Dealable(cGameName)) {
+  if (!LoadRules(cGameName)) {
     app_.MsgBox("The game \"" + cGameName + "\" is not in the list of games, so it cannot be dealt.", MsgStyle::Stop);
     return false;
   }
+  const cCustom rules = app_.cCustom;
   if (status_ == 1 && !EndGame(0, false)) return false;
   if (status_ == 2) ClearArea();
   // A game that ended while paused leaves no pressed Pause button behind.
@@ -47,8 +53,9 @@ bool cGamePlay::StartGame(const std::string& cGameName, const qv::GameNo& cGameN
   redealsComp_ = cRedealsComp;
   time_ = cTime;
   storedScore_ = cScore;
-  app_.cCustom.Init(cGameName);
-  SetupGame(app_.cCustom, app_.cGames);
+  app_.cCustom = rules;
+  dealt_ = rules;
+  SetupGame(rules, app_.cGames);
   app_.cPlay.Init(gameNo_);
   if (cLoadType == kNewDeal) {
     app_.cEngine.ClearTRANS();
@@ -72,8 +79,9 @@ bool cGamePlay::StartGame(const std::string& cGameName, const qv::GameNo& cGameN
 
 bool cGamePlay::PlayRandom(const std::optional<std::string>& gName) {
   std::string name = gName.value_or(LastGName());
-  // A first run with no game played yet has no last game: deal the family's first.
-  if (name.empty()) name = kDefaultGame;
+  // A first run with no game played yet has no last game, and the last may have been
+  // deleted since: deal the family's first.
+  if (!gName && !app_.cData.GameExists(name)) name = kDefaultGame;
   return StartGame(name, RandomGameNo(app_), 0, 0, 0, 0);
 }
 

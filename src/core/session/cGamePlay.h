@@ -5,6 +5,7 @@
 #include <string>
 
 #include "engine/GameNo.h"
+#include "engine/cCustom.h"
 
 namespace qv {
 
@@ -66,6 +67,9 @@ class cGamePlay {
   void LastGName(const std::string& name);
   int Game_LoadingType() const { return loadingType_; }
   const std::string& PendFile() const { return pendFile_; }
+  // The rule fields the game on the table was dealt with: saving it, restarting it and its
+  // rules page use these, whatever was browsed, edited or deleted since.
+  const std::optional<cCustom>& DealtRules() const { return dealt_; }
 
   // One second of the game clock (the tick of the game timer).
   void TickGame();
@@ -77,7 +81,7 @@ class cGamePlay {
 
  private:
   std::optional<SavedGame> ReadPlayable(const std::string& fName);
-  bool Dealable(const std::string& name) const;
+  bool LoadRules(const std::string& name);
 
   Program& app_;
   bool running_ = false;
@@ -92,6 +96,7 @@ class cGamePlay {
   std::string pendFile_;
   int status_ = 0;
   bool won_ = false;
+  std::optional<cCustom> dealt_;
 };
 
 }  // namespace qv

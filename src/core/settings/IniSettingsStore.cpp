@@ -77,9 +77,31 @@ bool SectionReadsBack(std::string_view name) {
   return name.find_first_of("\r\n") == std::string_view::npos && IsValidUtf8(name);
 }
 
-bool KeyReadsBack(std::string_view key) {
-  return !key.empty() && Trim(key) == key && key.find_first_of("=\r\n") == std::string_view::npos &&
-         key.find_first_of("[;#") != 0 && IsValidUtf8(key);
+bool KeyReadsBack(std::string_view key) { return !key.empty() && IsValidUtf8(key); }
+
+// A key that would not read back bare (outer blanks, "=", a leading "[", ";", "#" or quote,
+// a line end) is written quoted, as texts are; every other key stays bare as before.
+bool KeyNeedsQuotes(std::string_view key) {
+  return Trim(key) != key || key.find_first_of("=\r\n") != std::string_view::npos ||
+         key.find_first_of("[;#\"") == 0;
+}
+
+std::string FormatKey(const std::string& key) {
+  return KeyNeedsQuotes(key) ? FormatValue(SettingValue(key)) : key;
+}
+
+// A quoted key: its text and what follows its closing quote, or std::nullopt.
+std::optional<std::pair<std::string, std::string_view>> ParseQuotedKey(std::string_view line) {
+  for (size_t i = 1; i < line.size(); ++i) {
+    if (line[i] == '\\') {
+      ++i;
+    } else if (line[i] == '"') {
+      auto key = ParseQuoted(line.substr(0, i + 1));
+      if (!key) return std::nullopt;
+      return std::pair(std::move(*key), line.substr(i + 1));
+    }
+  }
+  return std::nullopt;
 }
 
 // Holds an exclusive flock on `path` while it lives; the kernel drops it when the
@@ -177,13 +199,25 @@ bool IniSettingsStore::ReadLine(std::string_view line, Sections& sections, size_
     section = whole ? SectionIndex(sections, std::string(line.substr(1, line.size() - 2))) : kNoSection;
     return whole;
   }
-  const size_t equals = line.find('=');
-  if (section == kNoSection || equals == std::string_view::npos) return false;
-  const std::string_view key = Trim(line.substr(0, equals));
-  std::optional<SettingValue> value = ParseValue(Trim(line.substr(equals + 1)));
+  if (section == kNoSection) return false;
+  std::string key;
+  std::string_view rest;
+  if (line.front() == '"') {
+    auto quoted = ParseQuotedKey(line);
+    if (!quoted) return false;
+    key = std::move(quoted->first);
+    rest = Trim(quoted->second);
+    if (!rest.starts_with('=')) return false;
+  } else {
+    const size_t equals = line.find('=');
+    if (equals == std::string_view::npos) return false;
+    key = Trim(line.substr(0, equals));
+    rest = line.substr(equals);
+  }
+  std::optional<SettingValue> value = ParseValue(Trim(rest.substr(1)));
   if (key.empty() || !value) return false;
   // A repeated key counts as damage: the rewrite keeps only the last value.
-  return Set(sections[section], std::string(key), std::move(*value));
+  return Set(sections[section], std::move(key), std::move(*value));
 }
 
 size_t IniSettingsStore::SectionIndex(Sections& sections, const std::string& name) {
@@ -288,7 +322,7 @@ std::string IniSettingsStore::Serialize(const Sections& sections) {
   for (const Section& section : sections) {
     if (!text.empty()) text += "\r\n";
     text += "[" + section.name + "]\r\n";
-    for (const Entry& entry : section.entries) text += entry.key + "=" + FormatValue(entry.value) + "\r\n";
+    for (const Entry& entry : section.entries) text += FormatKey(entry.key) + "=" + FormatValue(entry.value) + "\r\n";
   }
   return text;
 }

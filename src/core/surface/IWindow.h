@@ -19,8 +19,9 @@ class IWindow {
   virtual void ShowFinish() = 0;
   // The enabled state of "Sto&p" and its button, which the replay keeps itself.
   virtual void SetStopEnabled(bool enabled) = 0;
-  // Opens the window of a command key (a dialog, the help), blocking unless it says not.
-  virtual void OpenWindow(const std::string& key) = 0;
+  // Opens the window of a command key (a dialog, the help); modal false asks a window that
+  // can stay open beside the table (the rules page) not to block.
+  virtual void OpenWindow(const std::string& key, bool modal = true) = 0;
   // Closes the main window, which stops the program.
   virtual void CloseMain() = 0;
   // Rebuilds the menus that mirror folders and lists (recent games, pending games).

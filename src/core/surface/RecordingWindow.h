@@ -21,7 +21,10 @@ class RecordingWindow : public IWindow {
     if (onFinish) onFinish();
   }
   void SetStopEnabled(bool e) override { stopEnabled = e; }
-  void OpenWindow(const std::string& key) override { opened.push_back(key); }
+  void OpenWindow(const std::string& key, bool modal = true) override {
+    opened.push_back(key);
+    openedModal.push_back(modal);
+  }
   void CloseMain() override { closed = true; }
   void RefreshMenus() override {
     ++menuRefreshes;
@@ -34,6 +37,7 @@ class RecordingWindow : public IWindow {
   int finishShown = 0;
   bool stopEnabled = false;
   std::vector<std::string> opened;
+  std::vector<bool> openedModal;
   bool closed = false;
   int menuRefreshes = 0;
   std::function<void()> onRefreshMenus;  // lets a test read the menus as they are rebuilt

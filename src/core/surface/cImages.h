@@ -17,6 +17,11 @@ class cImages {
   Picture CardBack(int deckIndex) const { return {Picture::Back, static_cast<int16_t>(deckIndex)}; }
   Picture PileMarker(int n) const { return {Picture::Marker, static_cast<int16_t>(n)}; }
   void EndMarkers() {}
+  // The parts of a game's preview: reserve (piles, cards), foundation (base, cards) and
+  // tableau (piles, suits).
+  Picture ReservePicture(int RPiles, int RCards) const { return Preview(Picture::ReservePreview, RPiles, RCards); }
+  Picture GoalPicture(int GBase, int GCards) const { return Preview(Picture::GoalPreview, GBase, GCards); }
+  Picture HomePicture(int HPiles, int Suits) const { return Preview(Picture::HomePreview, HPiles, Suits); }
 
   // The selection dialog's pictures. A preview part is made from two rule parameters:
   // 0 the reserve (piles, cards), 1 the foundations (base, cards), 2 the tableau (piles, suits).
@@ -38,6 +43,11 @@ class cImages {
   int DeckGroup(int index) const;
   // The group names, with their count as text in element 0.
   std::vector<std::string> DeckGroups() const;
+
+ private:
+  static Picture Preview(Picture::Kind kind, int a, int b) {
+    return {kind, static_cast<int16_t>(a), static_cast<int16_t>(b)};
+  }
 };
 
 }  // namespace qv

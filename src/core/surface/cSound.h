@@ -28,6 +28,7 @@ class cSound {
   void AddFav() {}
   void OrgFav() {}
   void SelectDialog() {}
+  void Rules() {}
 };
 
 }  // namespace qv
