@@ -19,6 +19,7 @@ class cSound {
   void AutoSave() {}
   void OrgPend() {}
   void Hot() {}
+  void History() {}
 };
 
 }  // namespace qv
