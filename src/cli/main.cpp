@@ -10,6 +10,7 @@
 #include "lists/AutoSave.h"
 #include "lists/Pending.h"
 #include "lists/Recent.h"
+#include "session/HistoryReport.h"
 #include "session/Program.h"
 #include "session/StartUp.h"
 #include "settings/IniSettingsStore.h"
@@ -26,6 +27,10 @@ Commands:
                      game number NUMBER (any positive decimal number), as JSON.
   replay FILE        Load a saved game (.vq0 or .vq1) as the program does and print
                      the state as JSON; a finished game is first replayed to its end.
+  history FILE       Print the history report of a saved game loaded as replay does,
+                     for the current player, dated now.
+  moves FILE         The Moves Manager's rows of a saved game as a JSON array: moves,
+                     source, destination, cards, and inner (inside a step).
   run [SCRIPT]       Play a session script from SCRIPT or standard input.
   autosave-list      The auto-saved games as JSON: {"incomplete": [...], "finished": [...]},
                      full paths in the folder's order, files that read only.
@@ -35,7 +40,7 @@ Commands:
                      a game no longer in the game list, is left out.
   --help             Show this text.
 
-deal, replay and the lists only look: they write no setting and no file.
+deal, replay, history, moves and the lists only look: they write no setting and no file.
 
 A script has one command a line; blank lines and lines starting with # are skipped,
 and an argument with blanks goes in double quotes. It starts with no game on the
@@ -50,6 +55,7 @@ table, reads and writes your settings as the program does, and runs:
   tick N                   N seconds of the game clock
   pause | restart | close
   save PATH | open PATH    (a finished game is replayed to its end at once)
+  history [PATH]           print the game's history report, or write it to PATH
   show                     print the state as JSON
   title                    print the window title
   exit                     stop as the program stops (may keep the unfinished game)
@@ -89,7 +95,11 @@ int Look(const std::vector<std::string>& args) {
       return Fail(qv::kFileError, h.dialogs.messages.empty() ? "the file cannot be read" : h.dialogs.messages.back());
     qv::ReplayToEnd(app);
   }
-  std::cout << qv::StateJson(app) << "\n";
+  if (args[0] == "history") {
+    std::cout << qv::HistoryReport(qv::HistoryHeadOf(app), app.cEngine);
+    return qv::kOk;
+  }
+  std::cout << (args[0] == "moves" ? qv::MovesJson(app) : qv::StateJson(app)) << "\n";
   return qv::kOk;
 }
 
@@ -141,6 +151,7 @@ int main(int argc, char** argv) {
   }
   if (args[0] == "deal" && args.size() == 3) return Look(args);
   if (args[0] == "replay" && args.size() == 2) return Look(args);
+  if ((args[0] == "history" || args[0] == "moves") && args.size() == 2) return Look(args);
   if (args[0] == "run" && args.size() <= 2) return RunScript(args);
   if ((args[0] == "autosave-list" || args[0] == "pending-list") && args.size() == 1) return List(args);
   if (args[0] == "recent" && args.size() == 2) return List(args);
