@@ -144,7 +144,20 @@ void QtSprites::PaintFrame() {
   frameClock_.restart();
 }
 
-void QtSprites::Yield() { QCoreApplication::processEvents(); }
+// A walk over many records yields after every card. The table is painted at most once a
+// display frame: a yield within the frame runs the event loop with the view's updates held,
+// and the view is painted whole at the next one that may paint.
+void QtSprites::Yield() {
+  QWidget* viewport = view_.viewport();
+  if (frameClock_.elapsed() >= kFrameMs || !viewport->updatesEnabled()) {
+    QCoreApplication::processEvents();
+    frameClock_.restart();
+    return;
+  }
+  viewport->setUpdatesEnabled(false);
+  QCoreApplication::processEvents();
+  viewport->setUpdatesEnabled(true);
+}
 
 void QtSprites::SetZoom(double pixelsPerTwip, double devicePixelRatio) {
   if (std::abs(pixelsPerTwip - zoom_) < 1e-9 && devicePixelRatio == dpr_) return;

@@ -12,11 +12,13 @@
 #include "AutoSaveDialog.h"
 #include "CardDeckDialog.h"
 #include "FileCommands.h"
+#include "HistoryDialog.h"
 #include "HotGamesDialog.h"
 #include "CardPainter.h"
 #include "MainWindow.h"
 #include "OptionsDialog.h"
 #include "PendingDialog.h"
+#include "QuickMoveDialog.h"
 #include "ToolbarDialog.h"
 #include "session/Program.h"
 
@@ -85,6 +87,8 @@ void OpenProgramWindow(MainWindow& main, const QString& key) {
   else if (key == "AutoSave") AutoSaveDialog(main.app(), &main).exec();
   else if (key == "OrgPend") PendingDialog(main.app(), &main).exec();
   else if (key == "Hot") HotGamesDialog(main.app(), &main).exec();
+  else if (key == "MovesMan") QuickMoveDialog(main.app(), &main).exec();
+  else if (key == "History") HistoryDialog(main.app(), MainFileChooser(), &main).exec();
 }
 
 }  // namespace qv
