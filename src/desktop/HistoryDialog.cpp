@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
+#include <QTimer>
 #include <QTreeView>
 #include <QVBoxLayout>
 #include <filesystem>
@@ -41,7 +42,11 @@ HistoryDialog::HistoryDialog(Program& app, const FileChooser& choose, QWidget* p
   const int current = app_.cEngine.GetTransID();
   model_->SetCurrent(current);
   model_->SetMarked(current - 1);
-  if (current > 0) list_->scrollTo(model_->index(current - 1, 0), QAbstractItemView::PositionAtCenter);
+  // Once the list has its size, the bold row stands in its middle.
+  if (current > 0)
+    QTimer::singleShot(0, list_, [this, current] {
+      list_->scrollTo(model_->index(current - 1, 0), QAbstractItemView::PositionAtCenter);
+    });
 
   auto* exportButton = NamedButton("cmdExport", "Export");
   auto* close = NamedButton("cmdClose", "Close");

@@ -77,4 +77,15 @@ void JournalModel::SetMarked(int row) {
     if (r >= 0 && r < rowCount()) emit dataChanged(index(r, 0), index(r, 3));
 }
 
+void JournalDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const {
+  QStyledItemDelegate::initStyleOption(option, index);
+  if (!(option->state & QStyle::State_Selected)) return;
+  QColor tint = option->palette.color(QPalette::Highlight);
+  tint.setAlpha(64);
+  for (auto group : {QPalette::Active, QPalette::Inactive}) {
+    option->palette.setColor(group, QPalette::Highlight, tint);
+    option->palette.setBrush(group, QPalette::HighlightedText, option->palette.brush(QPalette::Text));
+  }
+}
+
 }  // namespace qv

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QStyledItemDelegate>
 
 namespace qv {
 
@@ -37,6 +38,17 @@ class JournalModel : public QAbstractTableModel {
   Kind kind_;
   int marked_ = -1;
   int current_ = 0;
+};
+
+// A selected row keeps its own colour over a light tint of the selection, so the marked
+// row shows its red while it is the current one.
+class JournalDelegate : public QStyledItemDelegate {
+  Q_OBJECT
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 };
 
 }  // namespace qv

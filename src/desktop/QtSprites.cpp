@@ -27,6 +27,9 @@ QtSprites::QtSprites(QGraphicsScene& scene, QGraphicsView& view) : scene_(scene)
   }
   Of(Sprites::PicCD)[0].item->setData(kCardRole, 0);
   frameClock_.start();
+  release_.setSingleShot(true);
+  release_.setInterval(kFrameMs);
+  QObject::connect(&release_, &QTimer::timeout, &view_, [this] { HoldUpdates(false); });
 }
 
 QGraphicsPixmapItem* QtSprites::NewItem() const {
@@ -140,23 +143,31 @@ void QtSprites::PaintFrame() {
     const qint64 wait = kFrameMs - frameClock_.elapsed();
     if (wait > 0) QThread::msleep(static_cast<unsigned long>(wait));
   }
+  HoldUpdates(false);
   view_.viewport()->repaint();
   frameClock_.restart();
 }
 
 // A walk over many records yields after every card. The table is painted at most once a
-// display frame: a yield within the frame runs the event loop with the view's updates held,
-// and the view is painted whole at the next one that may paint.
+// display frame: between two paints the view's updates are held, so a yield neither paints
+// nor sends the window to the screen, and the view is painted whole at the next one that
+// may paint, or by the release timer once the walk has ended.
 void QtSprites::Yield() {
-  QWidget* viewport = view_.viewport();
-  if (frameClock_.elapsed() >= kFrameMs || !viewport->updatesEnabled()) {
+  if (frameClock_.elapsed() >= kFrameMs) {
+    HoldUpdates(false);
     QCoreApplication::processEvents();
     frameClock_.restart();
     return;
   }
-  viewport->setUpdatesEnabled(false);
+  HoldUpdates(true);
   QCoreApplication::processEvents();
-  viewport->setUpdatesEnabled(true);
+}
+
+void QtSprites::HoldUpdates(bool hold) {
+  QWidget* viewport = view_.viewport();
+  if (hold) release_.start();
+  if (viewport->updatesEnabled() == !hold) return;
+  viewport->setUpdatesEnabled(!hold);
 }
 
 void QtSprites::SetZoom(double pixelsPerTwip, double devicePixelRatio) {

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QScreen>
 #include <QSlider>
 #include <QTreeView>
@@ -60,6 +61,7 @@ QuickMoveDialog::QuickMoveDialog(Program& app, QWidget* parent)
   text3_->setObjectName("lbText3");
   list_->setObjectName("lvQuick");
   list_->setModel(model_);
+  list_->setItemDelegate(new JournalDelegate(list_));
   list_->setRootIsDecorated(false);
   list_->setUniformRowHeights(true);
   list_->setAllColumnsShowFocus(true);
@@ -266,7 +268,10 @@ void QuickMoveDialog::FitFolded() {
   foldedHeight_ = upper_->sizeHint().height() + layout()->contentsMargins().top() + layout()->contentsMargins().bottom();
   setMinimumHeight(0);
   setFixedHeight(foldedHeight_);
-  if (width() < 560) resize(560, foldedHeight_);
+  // As wide as the list's columns, so that unfolding shows whole rows.
+  const int wide = list_->header()->length() + list_->verticalScrollBar()->sizeHint().width() + 2 * list_->frameWidth() +
+                   layout()->contentsMargins().left() + layout()->contentsMargins().right();
+  if (width() < wide) resize(wide, foldedHeight_);
 }
 
 }  // namespace qv
