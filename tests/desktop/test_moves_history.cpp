@@ -1,5 +1,7 @@
 // The Moves Manager and the Game History, driven as a user would.
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QGraphicsView>
 #include <QLabel>
 #include <QPushButton>
 #include <QSlider>
@@ -22,6 +24,14 @@
 using namespace qv;
 
 namespace {
+// Counts the paints a widget gets.
+struct PaintCounter : QObject {
+  int paints = 0;
+  bool eventFilter(QObject*, QEvent* event) override {
+    paints += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+  }
+};
 template <typename T>
 T* Get(QWidget& parent, const char* name) {
   T* w = parent.findChild<T*>(name);
@@ -212,6 +222,17 @@ class MovesHistoryTest : public QObject {
     {
       QuickMoveDialog dlg(app, &main);
       dlg.show();
+      // A walk yields after every card, yet paints the table at most once a display frame.
+      PaintCounter counter;
+      QWidget* table = main.findChild<QGraphicsView*>()->viewport();
+      table->installEventFilter(&counter);
+      QElapsedTimer clock;
+      clock.start();
+      app.cEngine.MoveTo(0, false);
+      QVERIFY2(counter.paints <= clock.elapsed() / 16 + 1, qPrintable(QString::number(counter.paints)));
+      QTRY_VERIFY(counter.paints > 0);
+      table->removeEventFilter(&counter);
+      app.cEngine.MoveTo(top);
       Get<QSlider>(dlg, "Slider1")->setValue(0);
       QTRY_VERIFY(Get<QPushButton>(dlg, "cmdReplayForward")->isEnabled());
       Get<QPushButton>(dlg, "cmdReplayForward")->click();
