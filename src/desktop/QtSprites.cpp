@@ -28,8 +28,11 @@ QtSprites::QtSprites(QGraphicsScene& scene, QGraphicsView& view) : scene_(scene)
   Of(Sprites::PicCD)[0].item->setData(kCardRole, 0);
   frameClock_.start();
   release_.setSingleShot(true);
-  release_.setInterval(kFrameMs);
-  QObject::connect(&release_, &QTimer::timeout, &view_, [this] { HoldUpdates(false); });
+  release_.setTimerType(Qt::PreciseTimer);
+  QObject::connect(&release_, &QTimer::timeout, &view_, [this] {
+    HoldUpdates(false);
+    frameClock_.restart();
+  });
 }
 
 QGraphicsPixmapItem* QtSprites::NewItem() const {
@@ -165,7 +168,8 @@ void QtSprites::Yield() {
 
 void QtSprites::HoldUpdates(bool hold) {
   QWidget* viewport = view_.viewport();
-  if (hold) release_.start();
+  // Released at the next frame's time, so the walk's last position shows without delay.
+  if (hold) release_.start(static_cast<int>(std::max<qint64>(1, kFrameMs - frameClock_.elapsed())));
   if (viewport->updatesEnabled() == !hold) return;
   viewport->setUpdatesEnabled(!hold);
 }

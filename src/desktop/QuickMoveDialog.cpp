@@ -95,6 +95,7 @@ QuickMoveDialog::QuickMoveDialog(Program& app, QWidget* parent)
   tmrMove_.setInterval(300);
   tmrReplay_.setInterval(50);
   scrub_.setInterval(kFrameMs);
+  scrub_.setTimerType(Qt::PreciseTimer);
   connect(&tmrMove_, &QTimer::timeout, this, &QuickMoveDialog::MoveTick);
   connect(&tmrReplay_, &QTimer::timeout, this, &QuickMoveDialog::ReplayTick);
   connect(&scrub_, &QTimer::timeout, this, &QuickMoveDialog::Scrub);
@@ -204,6 +205,7 @@ void QuickMoveDialog::Scrub() {
   if (!alive) return;
   ShowPosition(app_.cEngine.GetTransID());
   MarkRow(app_.cEngine.GetTransID(), true);
+  app_.surface.sprites.PaintFrame();  // the frame of this walk, paced to the display
 }
 
 void QuickMoveDialog::RowClicked(const QModelIndex& index) {

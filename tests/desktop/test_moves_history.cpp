@@ -152,7 +152,7 @@ class MovesHistoryTest : public QObject {
     slider->setSliderPosition(rowEnd - 3);  // inside the second row
     const long frames = g.t.sprites.Frames();
     QTRY_VERIFY_WITH_TIMEOUT(e.GetTransID() < top, 500);
-    QCOMPARE(g.t.sprites.Frames(), frames);  // placed, not glided
+    QVERIFY(g.t.sprites.Frames() - frames < 5);  // a frame a walk: the row was placed, not glided
     QCOMPARE(slider->value(), top);          // the value waits for the release
     slider->setSliderDown(false);
     QCOMPARE(e.GetTransID(), rowEnd - 10);
