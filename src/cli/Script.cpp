@@ -15,6 +15,7 @@
 #include "scores/PlayerEdit.h"
 #include "scores/Players.h"
 #include "session/Commands.h"
+#include "session/HistoryReport.h"
 #include "session/Program.h"
 #include "session/StartUp.h"
 
@@ -34,6 +35,19 @@ CommandError Usage(const std::string& m) { return {kUsageError, m}; }
 bool IsRandomStyleNumber(const std::string& s) {
   if (s.empty() || s.size() > 15 || s.find_first_not_of("0123456789") != std::string::npos) return false;
   return s.find_first_not_of('0') != std::string::npos;
+}
+
+// The game's history report, printed or written to PATH; greyed, it does nothing.
+CommandError History(Program& app, std::ostream& out, const std::vector<std::string>& w) {
+  if (w.size() > 2) return Usage("history takes at most a path");
+  if (!CommandEnabled(app, "History")) return {};
+  if (w.size() == 1) {
+    out << HistoryReport(HistoryHeadOf(app), app.cEngine);
+    return {};
+  }
+  std::string error;
+  if (!ExportHistory(app, w[1], &error)) return {kFileError, "the history could not be written to \"" + w[1] + "\": " + error};
+  return {};
 }
 
 }  // namespace
@@ -97,6 +111,7 @@ CommandError ScriptRunner::Execute(const std::vector<std::string>& w, bool& fini
   if (cmd == "open" || cmd == "save") return WithPath(w);
   if (cmd == "player") return Player(w);
   if (cmd == "addfav" || cmd == "playfav") return Favorite(w);
+  if (cmd == "history") return History(app_, out_, w);
   if (w.size() != 1) return Usage(cmd + " takes no arguments");
   // Commands of the window's menus: one that would be greyed does nothing.
   static const std::map<std::string, std::string> kMenuKeys{

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "session/MoveText.h"
 #include "session/Program.h"
 
 namespace qv {
@@ -66,6 +67,17 @@ std::string StateJson(const Program& app) {
   out += ",\"foundations\":[";
   for (int f = 0; f < 8; ++f) out += (f > 0 ? "," : "") + (onTable ? Pile(app, 3, f) : std::string("[]"));
   return out + "]}";
+}
+
+std::string MovesJson(const Program& app) {
+  std::string out = "[";
+  for (int n = 0; n <= app.cEngine.GetTransTop(); ++n) {
+    const QuickMoveRow row = QuickMoveRowOf(app, n);
+    out += (n ? "," : "") + std::string("{\"moves\":") + JsonText(row.moves) + ",\"source\":" + JsonText(row.source) +
+           ",\"destination\":" + JsonText(row.destination) + ",\"cards\":" + JsonText(row.cards) +
+           ",\"inner\":" + (row.inner ? "true" : "false") + "}";
+  }
+  return out + "]";
 }
 
 }  // namespace qv

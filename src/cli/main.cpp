@@ -16,6 +16,7 @@
 #include "lists/Recent.h"
 #include "scores/Finish.h"
 #include "lists/mSelect.h"
+#include "session/HistoryReport.h"
 #include "session/Program.h"
 #include "session/StartUp.h"
 #include "settings/IniSettingsStore.h"
@@ -32,6 +33,10 @@ Commands:
                      game number NUMBER (any positive decimal number), as JSON.
   replay FILE        Load a saved game (.vq0 or .vq1) as the program does and print
                      the state as JSON; a finished game is first replayed to its end.
+  history FILE       Print the history report of a saved game loaded as replay does,
+                     for the current player, dated now.
+  moves FILE         The Moves Manager's rows of a saved game as a JSON array: moves,
+                     source, destination, cards, and inner (inside a step).
   run [SCRIPT]       Play a session script from SCRIPT or standard input.
   autosave-list      The auto-saved games as JSON: {"incomplete": [...], "finished": [...]},
                      full paths in the folder's order, files that read only.
@@ -76,8 +81,9 @@ Commands:
 DATE is a date as the score files hold it, such as 11/17/2026 (default: today).
 Score files: "$XDG_DATA_HOME/Velmarin Works/Quorvale 6.0<player>.sre".
 
-deal, replay, games, rules, the lists and scores, top, gamestat and log only look: they
-write no setting and no file. deal and run take created games by name as well.
+deal, replay, history, moves, games, rules, the lists and scores, top, gamestat and log
+only look: they write no setting and no file. deal and run take created games by name
+as well.
 
 A script has one command a line; blank lines and lines starting with # are skipped,
 and an argument with blanks goes in double quotes. It starts with no game on the
@@ -95,6 +101,7 @@ table, reads and writes your settings as the program does, and runs:
   addfav [PATH]            add the deal on the table to the favourites (by default
                            "<game> - <number>" in the favourites folder)
   playfav PATH             deal a favourite's game and number
+  history [PATH]           print the game's history report, or write it to PATH
   show                     print the state as JSON
   title                    print the window title
   player NAME              play as NAME from now on (a new name is added)
@@ -139,7 +146,11 @@ int Look(const std::vector<std::string>& args) {
       return Fail(qv::kFileError, h.dialogs.messages.empty() ? "the file cannot be read" : h.dialogs.messages.back());
     qv::ReplayToEnd(app);
   }
-  std::cout << qv::StateJson(app) << "\n";
+  if (args[0] == "history") {
+    std::cout << qv::HistoryReport(qv::HistoryHeadOf(app), app.cEngine);
+    return qv::kOk;
+  }
+  std::cout << (args[0] == "moves" ? qv::MovesJson(app) : qv::StateJson(app)) << "\n";
   return qv::kOk;
 }
 
@@ -226,6 +237,7 @@ int main(int argc, char** argv) {
   }
   if (args[0] == "deal" && args.size() == 3) return Look(args);
   if (args[0] == "replay" && args.size() == 2) return Look(args);
+  if ((args[0] == "history" || args[0] == "moves") && args.size() == 2) return Look(args);
   if (args[0] == "run" && args.size() <= 2) return RunScript(args);
   if ((args[0] == "autosave-list" || args[0] == "pending-list") && args.size() == 1) return List(args);
   if (args[0] == "recent" && args.size() == 2) return List(args);

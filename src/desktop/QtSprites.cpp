@@ -27,6 +27,12 @@ QtSprites::QtSprites(QGraphicsScene& scene, QGraphicsView& view) : scene_(scene)
   }
   Of(Sprites::PicCD)[0].item->setData(kCardRole, 0);
   frameClock_.start();
+  release_.setSingleShot(true);
+  release_.setTimerType(Qt::PreciseTimer);
+  QObject::connect(&release_, &QTimer::timeout, &view_, [this] {
+    HoldUpdates(false);
+    frameClock_.restart();
+  });
 }
 
 QGraphicsPixmapItem* QtSprites::NewItem() const {
@@ -140,11 +146,33 @@ void QtSprites::PaintFrame() {
     const qint64 wait = kFrameMs - frameClock_.elapsed();
     if (wait > 0) QThread::msleep(static_cast<unsigned long>(wait));
   }
+  HoldUpdates(false);
   view_.viewport()->repaint();
   frameClock_.restart();
 }
 
-void QtSprites::Yield() { QCoreApplication::processEvents(); }
+// A walk over many records yields after every card. The table is painted at most once a
+// display frame: between two paints the view's updates are held, so a yield neither paints
+// nor sends the window to the screen, and the view is painted whole at the next one that
+// may paint, or by the release timer once the walk has ended.
+void QtSprites::Yield() {
+  if (frameClock_.elapsed() >= kFrameMs) {
+    HoldUpdates(false);
+    QCoreApplication::processEvents();
+    frameClock_.restart();
+    return;
+  }
+  HoldUpdates(true);
+  QCoreApplication::processEvents();
+}
+
+void QtSprites::HoldUpdates(bool hold) {
+  QWidget* viewport = view_.viewport();
+  // Released at the next frame's time, so the walk's last position shows without delay.
+  if (hold) release_.start(static_cast<int>(std::max<qint64>(1, kFrameMs - frameClock_.elapsed())));
+  if (viewport->updatesEnabled() == !hold) return;
+  viewport->setUpdatesEnabled(!hold);
+}
 
 void QtSprites::SetZoom(double pixelsPerTwip, double devicePixelRatio) {
   if (std::abs(pixelsPerTwip - zoom_) < 1e-9 && devicePixelRatio == dpr_) return;

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QHash>
 #include <QPixmap>
+#include <QTimer>
 #include <array>
 #include <vector>
 
@@ -57,6 +58,8 @@ class QtSprites : public ISprites {
   void Show(Element& e);
   // Places the cards that ride on card i, in their order above it.
   void PlaceCarried(int i);
+  // Holds or releases the view's paints; a hold ends by itself a frame after the last one.
+  void HoldUpdates(bool hold);
 
   QGraphicsScene& scene_;
   QGraphicsView& view_;
@@ -66,6 +69,7 @@ class QtSprites : public ISprites {
   double z_ = 0;
   bool pacing_ = true;
   QElapsedTimer frameClock_;
+  QTimer release_;
 };
 
 }  // namespace qv

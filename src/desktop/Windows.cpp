@@ -19,6 +19,7 @@
 #include "GameStudioDialog.h"
 #include "NewGameWizard.h"
 #include "RulesDialog.h"
+#include "HistoryDialog.h"
 #include "HotGamesDialog.h"
 #include "LogStatDialog.h"
 #include "CardPainter.h"
@@ -29,6 +30,7 @@
 #include "PlayersDialog.h"
 #include "SessionStatDialog.h"
 #include "SelectDialog.h"
+#include "QuickMoveDialog.h"
 #include "ToolbarDialog.h"
 #include "session/Program.h"
 
@@ -110,6 +112,8 @@ void OpenProgramWindow(MainWindow& main, const QString& key) {
   else if (key == "Wizard") NewGameWizard(main.app(), &main).exec();
   else if (key == "Editor" && GameStudioDialog(main.app(), &main).exec() == GameStudioDialog::kWizard)
     NewGameWizard(main.app(), &main).exec();
+  else if (key == "MovesMan") QuickMoveDialog(main.app(), &main).exec();
+  else if (key == "History") HistoryDialog(main.app(), MainFileChooser(), &main).exec();
 }
 
 }  // namespace qv

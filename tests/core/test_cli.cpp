@@ -131,7 +131,24 @@ TEST_F(Cli, ReplayShowsSavedGamesToTheirEndAndWritesNothing) {
   const Json done = Parse(Tool("replay " + Quoted(finished)).out);
   EXPECT_EQ(done["status"].text, "2");
   EXPECT_EQ(done["trans_id"].text, "10");
+  // The Moves Manager's rows and the history report of the same game only look too.
+  const Json rows = Parse(Tool("moves " + Quoted(running)).out);
+  ASSERT_EQ(rows.size(), 11u);
+  EXPECT_EQ(rows[0]["moves"].text, R"("Start")");
+  EXPECT_EQ(rows[0]["destination"].text, R"("Game No.:5")");
+  EXPECT_EQ(rows[1]["source"].text, R"x("Stock (Pile 0, Card 59)")x");
+  EXPECT_EQ(rows[1]["inner"].text + rows[10]["inner"].text, "truefalse");
+  const std::string report = Tool("history " + Quoted(finished)).out;
+  EXPECT_TRUE(report.starts_with("Game Name: Spider\r\nGame Number:  5 \r\nPlayer: ")) << report;
+  EXPECT_NE(report.find("\r\nMoves:  10 \r\nTime: 0:00:30\r\n"), std::string::npos) << report;
+  EXPECT_TRUE(report.ends_with("\r\n 10   Stock (Pile 1, Card 51)  ->Tableau (Pile 10, Card 5)  1 Card Moved\r\n"));
   EXPECT_TRUE(fs::is_empty(home.Path()));
+  // In a session, `history` prints the report or writes it to a file.
+  const std::string exported = scratch.File("h.txt");
+  const Outcome session = Run("open \"" + running + "\"\nhistory\nhistory \"" + exported + "\"\n");
+  EXPECT_TRUE(session.out.starts_with("Game Name: Spider\r\nGame Number:  5 \r\n")) << session.out;
+  const auto undated = [](std::string r) { return r.erase(r.find("Date :"), r.find("---") - r.find("Date :")); };
+  EXPECT_EQ(undated(ReadFile(exported)), undated(session.out));
   EXPECT_EQ(Parse(Run("open \"" + finished + "\"\nshow\n").out)["trans_id"].text, "10");
 }
 
@@ -194,7 +211,7 @@ TEST_F(Cli, UsageErrorsAreStatusTwoWithOneLineNamingTheScriptLine) {
   EXPECT_EQ(help.status, 0);
   for (const std::string c : {"deal", "replay", "run", "new", "number", "drag", "dragxy", "stock", "dblclick", "undo",
                               "redo", "undoall", "redoall", "moveto", "tick", "pause", "restart", "close", "save",
-                              "open", "show", "title", "exit", "autosave-list", "pending-list", "recent"})
+                              "open", "show", "title", "exit", "autosave-list", "pending-list", "recent", "history", "moves"})
     EXPECT_TRUE(std::regex_search(help.out, std::regex("\\b" + c + "\\b"))) << c;
 }
 
@@ -211,6 +228,10 @@ TEST_F(Cli, BadFilesAreFileErrorsThatChangeNothing) {
     const Outcome replay = Tool("replay " + Quoted(path));
     EXPECT_EQ(replay.status, 1) << name;
     EXPECT_TRUE(replay.OneErrorLine() && replay.out.empty()) << name << ": " << replay.err;
+    for (const std::string look : {"history ", "moves "}) {
+      const Outcome r = Tool(look + Quoted(path));
+      EXPECT_TRUE(r.status == 1 && r.OneErrorLine() && r.out.empty()) << look << name << ": " << r.err;
+    }
     const Outcome r = Run("new Spider 5\nstock\nopen \"" + path + "\"\nexit\n");
     EXPECT_EQ(r.status, 1) << name;
     EXPECT_TRUE(r.OneErrorLine() && r.err.find(": line 3: ") != std::string::npos) << name << ": " << r.err;

@@ -228,9 +228,9 @@ class DialogTest : public QObject {
   void routerOpensEachDialogModally() {
     MemorySettingsStore store;
     MainWindow main(store);
-    const QStringList keys{"Toolbar", "Animation", "Deck", "Options", "AutoSave", "OrgPend", "Hot"};
+    const QStringList keys{"Toolbar", "Animation", "Deck", "Options", "AutoSave", "OrgPend", "Hot", "History"};
     const QStringList titles{"Customize Toolbar", "Animation", "Customize Card Deck", "Options", "Auto Save",
-                             "Pending List Manager", "Hot Games"};
+                             "Pending List Manager", "Hot Games", "Game History"};
     for (int i = 0; i < keys.size(); ++i) {
       QCOMPARE(TitleOfModalOpenedBy([&] { OpenProgramWindow(main, keys[i]); }), titles[i]);
     }

@@ -52,7 +52,7 @@ void cEngine::EndMulti() {
 bool cEngine::Undo(int& Speed) {
   while (TransID >= 1) {
     const TransRec r = TRANS[TransID];
-    if (r.Multi == 1) Speed = 2;
+    if (r.Multi == 1 && glideSteps_) Speed = 2;
     if (Speed > 3) app_.cSound.Undo();
     if (r.tMod == 3) app_.cPlay.ChangeFaceMode(app_.cPlay.GetPicID(r.SCell, r.SPile, r.SPos - 1), false);
     ++revision_;
@@ -67,7 +67,7 @@ bool cEngine::Undo(int& Speed) {
 
 bool cEngine::Redo(int& Speed) {
   while (TransID != TransTop) {
-    if (TRANS[TransID].Multi == 1) Speed = 2;
+    if (TRANS[TransID].Multi == 1 && glideSteps_) Speed = 2;
     ++TransID;
     ++revision_;
     if (Speed > 3) app_.cSound.Redo();
@@ -89,8 +89,9 @@ void cEngine::RedoAll(int& Speed) {
   while (TransID != TransTop) Redo(Speed);
 }
 
-void cEngine::MoveTo(int Pos) {
+void cEngine::MoveTo(int Pos, bool glide) {
   if (Pos < 0 || Pos > TransTop || Pos == TransID) return;
+  glideSteps_ = glide;
   // By whole steps: a place inside a step leaves the cursor at the step's far end.
   if (Pos > TransID) {
     while (TransID < Pos) {
@@ -103,6 +104,7 @@ void cEngine::MoveTo(int Pos) {
       Undo(speed);
     }
   }
+  glideSteps_ = true;
 }
 
 int cEngine::TotalGoalCards() const {

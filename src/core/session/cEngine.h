@@ -33,7 +33,9 @@ class cEngine {
   bool Redo(int& Speed);
   void UndoAll(int& Speed);
   void RedoAll(int& Speed);
-  void MoveTo(int Pos);
+  // Walks by whole steps to Pos. Without glide every card is placed at once, steps of
+  // several records too: a slider dragged over the journal shows each position at once.
+  void MoveTo(int Pos, bool glide = true);
 
   int GetTransID() const { return TransID; }
   int GetTransTop() const { return TransTop; }
@@ -70,6 +72,7 @@ class cEngine {
   int TransMax = 0;
   int16_t MultiOn = 0;
   int revision_ = 0;
+  bool glideSteps_ = true;  // a step of several records moves at speed 2
 };
 
 }  // namespace qv

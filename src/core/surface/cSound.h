@@ -29,6 +29,7 @@ class cSound {
   void OrgFav() {}
   void SelectDialog() {}
   void Rules() {}
+  void History() {}
 };
 
 }  // namespace qv
