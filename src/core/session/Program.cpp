@@ -18,6 +18,7 @@ Program::Program(Surface s, ISettingsStore& st, PlatformFolders f)
       cPlay(*this),
       keeper(*this),
       rng(static_cast<uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count())) {
+  if (!surface.background) surface.background = &recordedBackground;
   FillProductData(cData);
   cRegistry.onFirstRefusal = [this] {
     MsgBox("Your settings cannot be saved at the moment, so changes will not be kept for the next "

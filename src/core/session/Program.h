@@ -17,10 +17,12 @@
 #include "session/cGamePlay.h"
 #include "settings/ISettingsStore.h"
 #include "settings/cRegistry.h"
+#include "surface/IBackground.h"
 #include "surface/IClock.h"
 #include "surface/IDialogs.h"
 #include "surface/ISprites.h"
 #include "surface/IWindow.h"
+#include "surface/RecordingBackground.h"
 #include "surface/cImages.h"
 #include "surface/cSound.h"
 
@@ -33,6 +35,8 @@ struct Surface {
   IWindow& window;
   IDialogs& dialogs;
   IClock& clock;
+  // The table's background; a recording one when none is given (headless runs, tests).
+  IBackground* background = nullptr;
 };
 
 // Owns the twelve program-wide objects, created in their fixed order, and what they share.
@@ -47,6 +51,7 @@ class Program {
   Answer MsgBox(const std::string& text, MsgStyle style);
 
   Surface surface;
+  RecordingBackground recordedBackground;  // what surface.background is when none was given
   PlatformFolders folders;
   ISettingsStore& store;
 
