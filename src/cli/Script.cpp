@@ -7,6 +7,7 @@
 #include <ostream>
 
 #include "CliSurface.h"
+#include "LooksJson.h"
 #include "StateJson.h"
 #include "engine/Pointer.h"
 #include "lists/Recent.h"
@@ -104,6 +105,9 @@ CommandError ScriptRunner::Execute(const std::vector<std::string>& w, bool& fini
     if (app_.cPlay.table().Exists() && app_.cPlay.GetTop(1, 0) >= 0) ClickCard(app_, app_.cPlay.GetTopPicID(1, 0));
   } else if (cmd == "show") {
     out_ << StateJson(app_) << "\n";
+  } else if (cmd == "sounds") {
+    out_ << JsonTexts(app_.recordedSound.events) << "\n";
+    app_.recordedSound.events.clear();
   } else if (cmd == "title") {
     app_.cGamePlay.Update_Title();
     out_ << app_.cGamePlay.Title() << "\n";

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "CliSurface.h"
+#include "LooksJson.h"
 #include "Script.h"
 #include "StateJson.h"
 #include "lists/AutoSave.h"
@@ -33,9 +34,17 @@ Commands:
   recent N           A recent list as the File menu shows it, a JSON array in slot order:
                      0 played, 1 saved, 2 opened. A saved game that no longer reads, or
                      a game no longer in the game list, is left out.
+  background         The table's background after the settings' repairs, as JSON: kind
+                     (0 texture, 1 colour, 2 picture, 3 scheme, 4 custom picture,
+                     5 image folder), index or path, a gradient's top and bottom
+                     colours, fade, tile and timer.
+  schemes            The colour schemes that read, by name, as a JSON array.
+  sounds             The thirty sound events as a JSON array: key, group, label, the
+                     file it plays and whether that file exists.
   --help             Show this text.
 
-deal, replay and the lists only look: they write no setting and no file.
+deal, replay, the lists, background, schemes and sounds only look: they write no
+setting and no file.
 
 A script has one command a line; blank lines and lines starting with # are skipped,
 and an argument with blanks goes in double quotes. It starts with no game on the
@@ -51,6 +60,7 @@ table, reads and writes your settings as the program does, and runs:
   pause | restart | close
   save PATH | open PATH    (a finished game is replayed to its end at once)
   show                     print the state as JSON
+  sounds                   print the sound events since the last "sounds", as JSON
   title                    print the window title
   exit                     stop as the program stops (may keep the unfinished game)
 Places: CELL 0 tableau, 1 stock, 3 foundation; PILE and POS count from 0.
@@ -109,6 +119,12 @@ int List(const std::vector<std::string>& args) {
               << ",\"finished\":" << JsonArray(qv::GetAutoSaveFiles(app, true)) << "}\n";
   } else if (args[0] == "pending-list") {
     std::cout << JsonArray(qv::GetPendingFiles(app)) << "\n";
+  } else if (args[0] == "background") {
+    std::cout << qv::BackgroundJson(app) << "\n";
+  } else if (args[0] == "schemes") {
+    std::cout << qv::SchemesJson(app) << "\n";
+  } else if (args[0] == "sounds") {
+    std::cout << qv::SoundsJson(app) << "\n";
   } else {
     if (args[1] != "0" && args[1] != "1" && args[1] != "2") return Fail(qv::kUsageError, "recent takes 0, 1 or 2");
     std::cout << JsonArray(qv::RecentMenuEntries(app, std::stoi(args[1]))) << "\n";
@@ -144,5 +160,6 @@ int main(int argc, char** argv) {
   if (args[0] == "run" && args.size() <= 2) return RunScript(args);
   if ((args[0] == "autosave-list" || args[0] == "pending-list") && args.size() == 1) return List(args);
   if (args[0] == "recent" && args.size() == 2) return List(args);
+  if ((args[0] == "background" || args[0] == "schemes" || args[0] == "sounds") && args.size() == 1) return List(args);
   return Fail(qv::kUsageError, "unknown command or wrong arguments; see quorvale-cli --help");
 }

@@ -10,6 +10,7 @@
 
 #include "AnimationDialog.h"
 #include "AutoSaveDialog.h"
+#include "BackgroundDialog.h"
 #include "CardDeckDialog.h"
 #include "FileCommands.h"
 #include "HotGamesDialog.h"
@@ -17,6 +18,7 @@
 #include "MainWindow.h"
 #include "OptionsDialog.h"
 #include "PendingDialog.h"
+#include "SoundsDialog.h"
 #include "ToolbarDialog.h"
 #include "session/Program.h"
 
@@ -48,6 +50,7 @@ void ShowAbout(MainWindow& main) {
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
   QObject::connect(buttons, &QDialogButtonBox::accepted, &about, &QDialog::accept);
   layout->addWidget(buttons);
+  main.app().cSound.About();
   about.exec();
 }
 
@@ -69,6 +72,7 @@ void ShowContents(MainWindow& main) {
   }
   help->show();
   help->raise();
+  main.app().cSound.Contents();
 }
 
 }  // namespace
@@ -85,6 +89,8 @@ void OpenProgramWindow(MainWindow& main, const QString& key) {
   else if (key == "AutoSave") AutoSaveDialog(main.app(), &main).exec();
   else if (key == "OrgPend") PendingDialog(main.app(), &main).exec();
   else if (key == "Hot") HotGamesDialog(main.app(), &main).exec();
+  else if (key == "Background") BackgroundDialog(main.app(), &main).exec();
+  else if (key == "Sounds") SoundsDialog(main.app(), &main).exec();
 }
 
 }  // namespace qv

@@ -21,8 +21,10 @@
 #include "surface/IClock.h"
 #include "surface/IDialogs.h"
 #include "surface/ISprites.h"
+#include "surface/ISoundOutput.h"
 #include "surface/IWindow.h"
 #include "surface/RecordingBackground.h"
+#include "surface/RecordingSound.h"
 #include "surface/cImages.h"
 #include "surface/cSound.h"
 
@@ -37,6 +39,8 @@ struct Surface {
   IClock& clock;
   // The table's background; a recording one when none is given (headless runs, tests).
   IBackground* background = nullptr;
+  // The sound output; a recording one when none is given.
+  ISoundOutput* sound = nullptr;
 };
 
 // Owns the twelve program-wide objects, created in their fixed order, and what they share.
@@ -52,6 +56,7 @@ class Program {
 
   Surface surface;
   RecordingBackground recordedBackground;  // what surface.background is when none was given
+  RecordingSound recordedSound;            // and surface.sound
   PlatformFolders folders;
   ISettingsStore& store;
 

@@ -28,6 +28,7 @@ void StartUp(Program& app) {
   if (PlayerCount(app.cRegistry) == 0) SetPlayer(app.cRegistry, 1, "Player1", true);
   SetWallTimer(app);
   if (app.cRegistry.Get(setting::WPTimerValue) == 5) PickWallpaper(app);
+  app.cSound.Preload();
 }
 
 void ShutDown(Program& app) {

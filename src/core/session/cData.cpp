@@ -83,7 +83,15 @@ std::string cData::SchemeFolder(FolderUse use) const { return SubFolder(AppDir(u
 std::string cData::PendingFolder(FolderUse use) const { return SubFolder(AppDir(use), "Pending List", use); }
 std::string cData::AutoSaveFolder(FolderUse use) const { return SubFolder(SavedFolder(use), "AutoSave Files", use); }
 
-std::string cData::ProgramFolder() const { return app_.folders.program.string(); }
+std::string cData::ProgramFolder() const {
+  // Built, the sounds lie beside the program; installed, in ../share/quorvale from it.
+  const auto& program = app_.folders.program;
+  std::error_code ec;
+  const auto shared = program.parent_path() / "share" / "quorvale";
+  if (!std::filesystem::exists(program / "Start.wav", ec) && std::filesystem::is_directory(shared, ec))
+    return shared.string();
+  return program.string();
+}
 
 std::string cData::UnFinFile() const { return (std::filesystem::path(AppDir()) / ("Unfin" + IncExt())).string(); }
 
