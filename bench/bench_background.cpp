@@ -1,5 +1,5 @@
 // A background change to its frame at 3840x2160: the background painted into the view's
-// picture and the view repainted from it, for each built-in kind, a gradient and a
+// picture and the whole frame rendered from it, for each built-in kind, a gradient and a
 // 12-megapixel photo (tiled and centred), with the photo's decoding timed apart. The
 // painting is Qt's software rasteriser: QT_QPA_PLATFORM is offscreen unless it is set.
 
@@ -34,7 +34,6 @@ class Frame : public QWidget {
 
 Frame& TheFrame() {
   static Frame frame;
-  frame.show();
   return frame;
 }
 
@@ -59,6 +58,7 @@ std::string Photo() {
 void BM_BackgroundChange(benchmark::State& state) {
   Frame& frame = TheFrame();
   const std::string photo = Photo();
+  static QImage screen(kScreen, QImage::Format_RGB32);
   int n = 0;
   for (auto _ : state) {
     ++n;
@@ -70,7 +70,7 @@ void BM_BackgroundChange(benchmark::State& state) {
       case 4: frame.background.ShowPicture({BackPicture::File, 0, photo}, true); break;
       default: frame.background.ShowPicture({BackPicture::File, 0, photo}, false); break;
     }
-    frame.repaint();
+    frame.render(&screen);  // the frame, as the window system would get it
   }
 }
 
