@@ -1,4 +1,4 @@
-// A background change to its frame at 3840x2160: the background painted into the view's
+// A sound event as the event loop pays for it, and a background change to its frame at 3840x2160: the background painted into the view's
 // picture and the whole frame rendered from it, for each built-in kind, a gradient and a
 // 12-megapixel photo (tiled and centred), with the photo's decoding timed apart. The
 // painting is Qt's software rasteriser: QT_QPA_PLATFORM is offscreen unless it is set.
@@ -15,6 +15,7 @@
 
 #include "BackgroundPainter.h"
 #include "QtBackground.h"
+#include "QtSound.h"
 
 namespace qv {
 namespace {
@@ -83,6 +84,15 @@ void BM_PhotoDecode(benchmark::State& state) {
   }
 }
 
+// A sound event's cost on the event loop: the last sound stopped and a loaded one started.
+void BM_SoundPlay(benchmark::State& state) {
+  QtSound sound;
+  const std::string wave = QUORVALE_WAVES "/Sel.wav";
+  sound.Load(wave);
+  for (auto _ : state) sound.PlayWave(wave);
+}
+
+BENCHMARK(BM_SoundPlay)->UseRealTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(BM_BackgroundChange)->DenseRange(0, 5)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_PhotoDecode)->UseRealTime()->Unit(benchmark::kMillisecond);
 
