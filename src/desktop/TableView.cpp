@@ -56,6 +56,7 @@ void TableView::drawBackground(QPainter* painter, const QRectF& rect) {
   const qreal dpr = canvas.width() / std::max(1.0, static_cast<qreal>(viewport()->width()));
   painter->save();
   painter->resetTransform();
+  painter->setCompositionMode(QPainter::CompositionMode_Source);  // opaque: a plain copy
   painter->drawPixmap(exposed, canvas, QRectF(exposed.topLeft() * dpr, exposed.size() * dpr));
   painter->restore();
 }
