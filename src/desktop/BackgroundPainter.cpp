@@ -250,10 +250,10 @@ QImage BackgroundPainter::Gradient(QSize pixels, QColor top, QColor bottom) {
 }
 
 QImage BackgroundPainter::DefaultImage() {
-  QImage image(QSize(800, 500), QImage::Format_RGB32);
+  // Whole tiles of the first felt: tiled, as pictures are at first, it shows no seam.
+  QImage image(QSize(768, 512), QImage::Format_RGB32);
   QPainter p(&image);
-  p.scale(0.5, 0.5);
-  PaintPicture(p, 2, kPictureSize.width(), kPictureSize.height());
+  p.drawTiledPixmap(image.rect(), QPixmap::fromImage(Texture(1, 1)));
   return image;
 }
 

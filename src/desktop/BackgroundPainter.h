@@ -17,7 +17,7 @@ class BackgroundPainter {
   // A vertical run from top to bottom over `pixels` (device pixels), dithered so that a
   // long, slow run shows no bands.
   static QImage Gradient(QSize pixels, QColor top, QColor bottom);
-  // The picture saved as the default custom image.
+  // The picture saved as the default custom image: a felt that tiles without a seam.
   static QImage DefaultImage();
   static constexpr QSize kTextureSize{256, 256};
   static constexpr QSize kPictureSize{1600, 1000};
