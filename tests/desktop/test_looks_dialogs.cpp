@@ -7,6 +7,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSlider>
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QTabWidget>
@@ -18,6 +19,7 @@
 #include "BackgroundDialog.h"
 #include "FileCommands.h"
 #include "InputAsker.h"
+#include "QtBackground.h"
 #include "QtSound.h"
 #include "SoundsDialog.h"
 #include "TestProgram.h"
@@ -231,6 +233,39 @@ class LooksDialogsTest : public QObject {
     QVERIFY(t.settings.ReadText("Sounds", "Start").has_value());
     QCOMPARE(start->icon(0).cacheKey(), SoundsDialog::UnsetMark().cacheKey());
     QVERIFY(!remove->isEnabled() && !play->isEnabled());
+  }
+
+  void aCentredPictureLeavesTheRestAsItWasUntilAResize() {
+    QWidget target;
+    QtBackground bg(target);
+    bg.Resize(QSize(400, 300), 1);
+    const QString small = QDir::temp().filePath("quorvale-looks-small.png");
+    QImage picture(100, 50, QImage::Format_RGB32);
+    picture.fill(QColor(200, 10, 10));
+    QVERIFY(picture.save(small));
+    auto at = [&](int x, int y) { return bg.Canvas().toImage().pixelColor(x, y); };
+    bg.Gradient({0, 0, 200}, {0, 0, 200});
+    QVERIFY(bg.ShowPicture({BackPicture::File, 0, small.toStdString()}, false));
+    QCOMPARE(at(200, 150), QColor(200, 10, 10));  // in the middle, one pixel to one pixel
+    QCOMPARE(at(200 - 51, 150), QColor(0, 0, 200));  // what the window held stays beside it
+    QCOMPARE(at(200 + 50, 150), QColor(0, 0, 200));
+    bg.Resize(QSize(600, 300), 1);  // cleared, then the picture alone again
+    QCOMPARE(at(300, 150), QColor(200, 10, 10));
+    QCOMPARE(at(10, 10), QColor(0, 64, 0));
+    // A file that does not decode is missing: nothing changes.
+    const QString broken = QDir::temp().filePath("quorvale-looks-broken.png");
+    QFile file(broken);
+    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("not a picture") > 0);
+    file.close();
+    QVERIFY(!bg.ShowPicture({BackPicture::File, 0, broken.toStdString()}, true));
+    QCOMPARE(at(300, 150), QColor(200, 10, 10));
+    // On a screen of scale 2 the same picture covers half as many logical pixels.
+    bg.Resize(QSize(600, 300), 2);
+    QCOMPARE(bg.Canvas().size(), QSize(1200, 600));
+    QCOMPARE(at(600 + 49, 300), QColor(200, 10, 10));
+    QCOMPARE(at(600 + 51, 300), QColor(0, 64, 0));
+    QFile::remove(small);
+    QFile::remove(broken);
   }
 
   void soundsWithNoAudioDeviceReturnAtOnce() {
