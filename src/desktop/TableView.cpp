@@ -50,6 +50,8 @@ void TableView::ShowBackground(QtBackground* background) {
 
 void TableView::drawBackground(QPainter* painter, const QRectF& rect) {
   if (!background_) return QGraphicsView::drawBackground(painter, rect);
+  // Sized here, so a move to a screen of another scale is followed as a resize is.
+  background_->Resize(viewport()->size(), devicePixelRatioF());
   // A copy of the ready picture, in the viewport's pixels whatever the zoom.
   const QPixmap& canvas = background_->Canvas();
   const QRectF exposed = mapFromScene(rect).boundingRect();
@@ -63,7 +65,6 @@ void TableView::drawBackground(QPainter* painter, const QRectF& rect) {
 
 void TableView::resizeEvent(QResizeEvent* event) {
   QGraphicsView::resizeEvent(event);
-  if (background_) background_->Resize(viewport()->size(), devicePixelRatioF());
   zoom_ = 0;
   FitTable();
 }
