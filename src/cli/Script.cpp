@@ -8,6 +8,7 @@
 
 #include "CliSurface.h"
 #include "ScoreCommands.h"
+#include "LooksJson.h"
 #include "StateJson.h"
 #include "engine/Pointer.h"
 #include "lists/Favorites.h"
@@ -127,6 +128,9 @@ CommandError ScriptRunner::Execute(const std::vector<std::string>& w, bool& fini
     out_ << StateJson(app_) << "\n";
   } else if (cmd == "session") {
     out_ << SessionJson(app_) << "\n";
+  } else if (cmd == "sounds") {
+    out_ << JsonTexts(app_.recordedSound.events) << "\n";
+    app_.recordedSound.events.clear();
   } else if (cmd == "title") {
     app_.cGamePlay.Update_Title();
     out_ << app_.cGamePlay.Title() << "\n";

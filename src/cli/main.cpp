@@ -7,6 +7,7 @@
 
 #include "CliSurface.h"
 #include "Games.h"
+#include "LooksJson.h"
 #include "Script.h"
 #include "ScoreCommands.h"
 #include "SelectJson.h"
@@ -76,14 +77,21 @@ Commands:
                      --overwrite is given.
   delete-game NAME   Delete a created game (its question answered Yes). Its scores,
                      saved games and favourites stay.
+  background         The table's background after the settings' repairs, as JSON: kind
+                     (0 texture, 1 colour, 2 picture, 3 scheme, 4 custom picture,
+                     5 image folder), index or path, a gradient's top and bottom
+                     colours, fade, tile and timer.
+  schemes            The colour schemes that read, by name, as a JSON array.
+  sounds             The thirty sound events as a JSON array: key, group, label, the
+                     file it plays and whether that file exists.
   --help             Show this text.
 
 DATE is a date as the score files hold it, such as 11/17/2026 (default: today).
 Score files: "$XDG_DATA_HOME/Velmarin Works/Quorvale 6.0<player>.sre".
 
-deal, replay, history, moves, games, rules, the lists and scores, top, gamestat and log
-only look: they write no setting and no file. deal and run take created games by name
-as well.
+deal, replay, history, moves, games, rules, the lists, scores, top, gamestat, log,
+background, schemes and sounds only look: they write no setting and no file. deal and
+run take created games by name as well.
 
 A script has one command a line; blank lines and lines starting with # are skipped,
 and an argument with blanks goes in double quotes. It starts with no game on the
@@ -103,6 +111,7 @@ table, reads and writes your settings as the program does, and runs:
   playfav PATH             deal a favourite's game and number
   history [PATH]           print the game's history report, or write it to PATH
   show                     print the state as JSON
+  sounds                   print the sound events since the last "sounds", as JSON
   title                    print the window title
   player NAME              play as NAME from now on (a new name is added)
   session                  print this run's ended games and their totals as JSON
@@ -179,6 +188,12 @@ int List(const std::vector<std::string>& args) {
     std::cout << json << "\n";
   } else if (args[0] == "pending-list") {
     std::cout << JsonArray(qv::GetPendingFiles(app)) << "\n";
+  } else if (args[0] == "background") {
+    std::cout << qv::BackgroundJson(app) << "\n";
+  } else if (args[0] == "schemes") {
+    std::cout << qv::SchemesJson(app) << "\n";
+  } else if (args[0] == "sounds") {
+    std::cout << qv::SoundsJson(app) << "\n";
   } else {
     if (args[1] != "0" && args[1] != "1" && args[1] != "2") return Fail(qv::kUsageError, "recent takes 0, 1 or 2");
     std::cout << JsonArray(qv::RecentMenuEntries(app, std::stoi(args[1]))) << "\n";
@@ -248,5 +263,6 @@ int main(int argc, char** argv) {
   if ((args[0] == "create-game" && (args.size() == 8 || args.size() == 9)) ||
       (args[0] == "delete-game" && args.size() == 2))
     return CreatedGames(args);
+  if ((args[0] == "background" || args[0] == "schemes" || args[0] == "sounds") && args.size() == 1) return List(args);
   return Fail(qv::kUsageError, "unknown command or wrong arguments; see quorvale-cli --help");
 }

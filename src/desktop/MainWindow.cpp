@@ -8,6 +8,8 @@
 
 #include "CardPainter.h"
 #include "FinishDialog.h"
+#include "QtBackground.h"
+#include "QtSound.h"
 #include "QtSprites.h"
 #include "TableView.h"
 #include "Windows.h"
@@ -18,6 +20,7 @@
 #include "session/Program.h"
 #include "session/StartUp.h"
 #include "settings/FileClasses.h"
+#include "settings/mCustomize.h"
 
 namespace qv {
 
@@ -29,7 +32,6 @@ constexpr std::array<int, 6> kIntervals{100, 500, 1000, 500, 500, 60000};
 MainWindow::MainWindow(ISettingsStore& store, QWidget* parent)
     : QMainWindow(parent), view_(new TableView(&scene_, this)) {
   scene_.setItemIndexMethod(QGraphicsScene::NoIndex);  // cards move all the time
-  scene_.setBackgroundBrush(QColor(0, 64, 0));
   setCentralWidget(view_);
   sprites_ = std::make_unique<QtSprites>(scene_, *view_);
   boxes_.SetParent(this);
@@ -37,7 +39,11 @@ MainWindow::MainWindow(ISettingsStore& store, QWidget* parent)
     timers_[t] = std::make_unique<QTimer>();
     timers_[t]->setInterval(kIntervals[t]);
   }
-  app_ = std::make_unique<Program>(Surface{*sprites_, *this, boxes_, clock_}, store, PlatformFolders::FromEnvironment());
+  background_ = std::make_unique<QtBackground>(*view_->viewport());
+  sound_ = std::make_unique<QtSound>();
+  view_->ShowBackground(background_.get());
+  app_ = std::make_unique<Program>(Surface{*sprites_, *this, boxes_, clock_, background_.get(), sound_.get()}, store,
+                                   PlatformFolders::FromEnvironment());
   app_->ScreenWidth = kScreenWidth;
   view_->Attach(app_.get(), sprites_.get());
   windowOpener = [this](const QString& key) { OpenProgramWindow(*this, key); };
@@ -51,6 +57,12 @@ MainWindow::MainWindow(ISettingsStore& store, QWidget* parent)
   connect(&TimerOf(Timer::Game), &QTimer::timeout, this, [this] { app_->cGamePlay.TickGame(); });
   connect(&TimerOf(Timer::Forward), &QTimer::timeout, this, [this] { ReplayTick(*app_, true); });
   connect(&TimerOf(Timer::Backward), &QTimer::timeout, this, [this] { ReplayTick(*app_, false); });
+  connect(&TimerOf(Timer::WallPaper), &QTimer::timeout, this, [this] { PickWallpaper(*app_); });
+  background_->onWallTimer = [this](int ms) {
+    QTimer& wall = TimerOf(Timer::WallPaper);
+    if (ms > 0) wall.start(ms);
+    else wall.stop();
+  };
   BuildMenus();
   BuildToolbar();
   for (auto it = actions_.cbegin(); it != actions_.cend(); ++it)

@@ -20,6 +20,8 @@ namespace qv {
 
 class ISettingsStore;
 class Program;
+class QtBackground;
+class QtSound;
 class QtSprites;
 class TableView;
 
@@ -74,6 +76,8 @@ class MainWindow : public QMainWindow, public IWindow {
   QtMessageBoxes boxes_;
   SystemClock clock_;
   std::array<std::unique_ptr<QTimer>, 6> timers_;
+  std::unique_ptr<QtBackground> background_;
+  std::unique_ptr<QtSound> sound_;
   std::unique_ptr<Program> app_;
   QHash<QString, QAction*> actions_;
   QToolBar* toolbar_ = nullptr;

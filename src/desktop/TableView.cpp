@@ -2,8 +2,10 @@
 
 #include <QGraphicsItem>
 #include <QMouseEvent>
+#include <QPainter>
 #include <algorithm>
 
+#include "QtBackground.h"
 #include "QtSprites.h"
 #include "engine/Pointer.h"
 #include "session/Program.h"
@@ -22,8 +24,6 @@ TableView::TableView(QGraphicsScene* scene, QWidget* parent) : QGraphicsView(sce
   setAlignment(Qt::AlignHCenter | Qt::AlignTop);
   setFrameShape(QFrame::NoFrame);
   setViewportUpdateMode(QGraphicsView::MinimalViewportUpdate);
-  setCacheMode(QGraphicsView::CacheBackground);
-  setBackgroundBrush(QColor(0, 64, 0));
   setMouseTracking(false);
 }
 
@@ -41,6 +41,26 @@ void TableView::FitTable() {
   // The table keeps its width in twips; when its height rules, it stands centred.
   setSceneRect(0, 0, kTableWidth, viewport()->height() / zoom);
   sprites_->SetZoom(zoom, devicePixelRatioF());
+}
+
+void TableView::ShowBackground(QtBackground* background) {
+  background_ = background;
+  background_->Resize(viewport()->size(), devicePixelRatioF());
+}
+
+void TableView::drawBackground(QPainter* painter, const QRectF& rect) {
+  if (!background_) return QGraphicsView::drawBackground(painter, rect);
+  // Sized here, so a move to a screen of another scale is followed as a resize is.
+  background_->Resize(viewport()->size(), devicePixelRatioF());
+  // A copy of the ready picture, in the viewport's pixels whatever the zoom.
+  const QPixmap& canvas = background_->Canvas();
+  const QRectF exposed = mapFromScene(rect).boundingRect();
+  const qreal dpr = canvas.width() / std::max(1.0, static_cast<qreal>(viewport()->width()));
+  painter->save();
+  painter->resetTransform();
+  painter->setCompositionMode(QPainter::CompositionMode_Source);  // opaque: a plain copy
+  painter->drawPixmap(exposed, canvas, QRectF(exposed.topLeft() * dpr, exposed.size() * dpr));
+  painter->restore();
 }
 
 void TableView::resizeEvent(QResizeEvent* event) {

@@ -5,6 +5,7 @@
 namespace qv {
 
 class Program;
+class QtBackground;
 class QtSprites;
 
 // The view of the table. It scales the whole scene with one zoom factor, so the table's
@@ -15,11 +16,14 @@ class TableView : public QGraphicsView {
  public:
   TableView(QGraphicsScene* scene, QWidget* parent = nullptr);
   void Attach(Program* app, QtSprites* sprites) { app_ = app, sprites_ = sprites; }
+  // The background drawn under the cards; it follows the view's size.
+  void ShowBackground(QtBackground* background);
   // Fits the zoom to the window and to the lowest card on the table.
   void FitTable();
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void drawBackground(QPainter* painter, const QRectF& rect) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -30,6 +34,7 @@ class TableView : public QGraphicsView {
 
   Program* app_ = nullptr;
   QtSprites* sprites_ = nullptr;
+  QtBackground* background_ = nullptr;
   int pressed_ = -1;  // the sprite the press went to; moves and the release follow it
   double zoom_ = 0;
 };

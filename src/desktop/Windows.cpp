@@ -11,6 +11,7 @@
 #include "AddFavDialog.h"
 #include "AnimationDialog.h"
 #include "AutoSaveDialog.h"
+#include "BackgroundDialog.h"
 #include "CardDeckDialog.h"
 #include "ChooseDialog.h"
 #include "FileCommands.h"
@@ -31,6 +32,7 @@
 #include "SessionStatDialog.h"
 #include "SelectDialog.h"
 #include "QuickMoveDialog.h"
+#include "SoundsDialog.h"
 #include "ToolbarDialog.h"
 #include "session/Program.h"
 
@@ -62,6 +64,7 @@ void ShowAbout(MainWindow& main) {
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok);
   QObject::connect(buttons, &QDialogButtonBox::accepted, &about, &QDialog::accept);
   layout->addWidget(buttons);
+  main.app().cSound.About();
   about.exec();
 }
 
@@ -83,6 +86,7 @@ void ShowContents(MainWindow& main) {
   }
   help->show();
   help->raise();
+  main.app().cSound.Contents();
 }
 
 }  // namespace
@@ -114,6 +118,8 @@ void OpenProgramWindow(MainWindow& main, const QString& key) {
     NewGameWizard(main.app(), &main).exec();
   else if (key == "MovesMan") QuickMoveDialog(main.app(), &main).exec();
   else if (key == "History") HistoryDialog(main.app(), MainFileChooser(), &main).exec();
+  else if (key == "Background") BackgroundDialog(main.app(), &main).exec();
+  else if (key == "Sounds") SoundsDialog(main.app(), &main).exec();
 }
 
 }  // namespace qv

@@ -369,5 +369,21 @@ TEST_F(Cli, CreatedGamesFromCreateToDelete) {
   EXPECT_EQ(Tool("delete-game 'Six, Easy'").status, 2);
 }
 
+TEST_F(Cli, BackgroundSchemesAndSoundsOnlyLookAndRunTellsTheSoundsPlayed) {
+  EXPECT_EQ(Tool("background").out, R"({"kind":1,"index":7,"name":"Felt Green","top":[20,105,45],"bottom":[0,0,0],)"
+                                    R"("fade":1,"tile":1,"timer":4})" "\n");
+  EXPECT_EQ(Tool("schemes").out, "[]\n");
+  const Json sounds = Parse(Tool("sounds").out);
+  ASSERT_EQ(sounds.size(), 30u);
+  EXPECT_EQ(sounds[4]["key"].text, R"("Redo")");
+  EXPECT_EQ(sounds[4]["label"].text, R"("Redo")");
+  EXPECT_EQ(sounds[4]["path"].text, "\"" + (fs::path(QUORVALE_CLI).parent_path() / "Undo.wav").string() + "\"");
+  EXPECT_EQ(sounds[4]["exists"].text, "true");  // made by the build beside the programs
+  EXPECT_EQ(sounds[29]["group"].text, R"("Help")");
+  EXPECT_EQ(Tool("deal Spider 2").status, 0);  // which picks a wallpaper, looking only
+  EXPECT_TRUE(fs::is_empty(home.Path()));
+  EXPECT_EQ(Run("new Spider 1\nsounds\nstock\nundo\nsounds\nsounds\n").out, "[\"Start\"]\n[\"Undo\"]\n[]\n");
+}
+
 }  // namespace
 }  // namespace qv::test

@@ -34,9 +34,10 @@ void PointerReleased(Program& app, int i) {
   Motion::Step step(app.motion);
   if (!step || !app.cGamePlay.Game_Running() || !app.drag.Dragging) return;
   app.drag.Dragging = false;
+  const int home = app.cEngine.TotalGoalCards();
   app.cPlay.MouseUp(i, app.cPlay.Cell(i), app.cPlay.Pile(i), app.cPlay.Pos(i));
-  // The sound plays for a refused drop too.
-  app.cSound.MoveCard();
+  // The sound plays for a refused drop too; a drop that sent a set home has had its own.
+  if (app.cEngine.TotalGoalCards() == home) app.cSound.MoveCard();
 }
 
 void PointerDoubleClicked(Program& app, int i) {

@@ -264,6 +264,7 @@ void cPlay::AutoMoveCheck() {
     int f = table_.Card(table_.GetTopPicID(0, p)).Suitpile;
     if (app_.cGames.GoalDiv() != 0) f %= app_.cGames.GoalDiv();
     app_.cEngine.StartMulti();
+    app_.cSound.AutoPlay();  // as the set starts to leave
     for (int n = 0; n < kSetSize; ++n) {
       // The last card may finish the game, and the table may be gone when that returns.
       if (!app_.cGamePlay.Game_Running()) return;

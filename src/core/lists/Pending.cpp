@@ -33,6 +33,7 @@ void MoveToPending(Program& app) {
                MsgStyle::Stop);
     return;
   }
+  app.cSound.AddPend();
   app.surface.window.RefreshMenus();
   app.cGamePlay.ClearArea();
 }

@@ -15,10 +15,13 @@ Program::Program(Surface s, ISettingsStore& st, PlatformFolders f)
       cRegistry(st),
       cFunc(cRegistry),
       cGamePlay(*this),
+      cSound(*this),
       cCustom(*this),
       cPlay(*this),
       keeper(*this),
       rng(static_cast<uint64_t>(std::chrono::steady_clock::now().time_since_epoch().count())) {
+  if (!surface.background) surface.background = &recordedBackground;
+  if (!surface.sound) surface.sound = &recordedSound;
   FillProductData(cData);
   cRegistry.onFirstRefusal = [this] {
     MsgBox("Your settings cannot be saved at the moment, so changes will not be kept for the next "

@@ -18,10 +18,14 @@
 #include "session/cGamePlay.h"
 #include "settings/ISettingsStore.h"
 #include "settings/cRegistry.h"
+#include "surface/IBackground.h"
 #include "surface/IClock.h"
 #include "surface/IDialogs.h"
 #include "surface/ISprites.h"
+#include "surface/ISoundOutput.h"
 #include "surface/IWindow.h"
+#include "surface/RecordingBackground.h"
+#include "surface/RecordingSound.h"
 #include "surface/cImages.h"
 #include "surface/cSound.h"
 
@@ -34,6 +38,10 @@ struct Surface {
   IWindow& window;
   IDialogs& dialogs;
   IClock& clock;
+  // The table's background; a recording one when none is given (headless runs, tests).
+  IBackground* background = nullptr;
+  // The sound output; a recording one when none is given.
+  ISoundOutput* sound = nullptr;
 };
 
 // Owns the twelve program-wide objects, created in their fixed order, and what they share.
@@ -48,6 +56,8 @@ class Program {
   Answer MsgBox(const std::string& text, MsgStyle style);
 
   Surface surface;
+  RecordingBackground recordedBackground;  // what surface.background is when none was given
+  RecordingSound recordedSound;            // and surface.sound
   PlatformFolders folders;
   ISettingsStore& store;
 

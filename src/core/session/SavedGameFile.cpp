@@ -167,14 +167,18 @@ std::string GameNoField(const GameNo& no) {
   return no.Text().starts_with('-') ? no.Text() + " " : " " + no.Text() + " ";
 }
 
-std::string MoveLine(const TransRec& r) {
-  const long long fields[] = {r.PicID, r.SCell, r.SPile, r.SPos, r.DCell, r.DPile, r.DPos, r.mCards, r.tMod, r.Multi};
+std::string ZonedLine(std::span<const long long> fields) {
   std::string line;
-  for (size_t k = 0; k < std::size(fields); ++k) {
+  for (size_t k = 0; k < fields.size(); ++k) {
     if (k > 0) line.resize(((line.size() + kZone - 1) / kZone) * kZone, ' ');
     line += NumberField(fields[k]);
   }
   return line;
+}
+
+std::string MoveLine(const TransRec& r) {
+  const long long fields[] = {r.PicID, r.SCell, r.SPile, r.SPos, r.DCell, r.DPile, r.DPos, r.mCards, r.tMod, r.Multi};
+  return ZonedLine(fields);
 }
 
 std::string FormatSavedGame(const GameHeader& h, const std::vector<TransRec>& records) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,7 +32,9 @@ struct SavedGame {
 std::string NumberField(long long v);
 // Line 2: the number form for a number, the bare digits for a number as typed.
 std::string GameNoField(const GameNo& no);
-// The ten fields of a record, each starting at the next 14-character print zone.
+// Numbers in the number form, each starting at the next 14-character print zone.
+std::string ZonedLine(std::span<const long long> fields);
+// The ten fields of a record, zoned.
 std::string MoveLine(const TransRec& r);
 // The whole file: 18 header lines and one move line per record, every line ending in CR LF.
 std::string FormatSavedGame(const GameHeader& h, const std::vector<TransRec>& records);

@@ -4,6 +4,7 @@
 #include "scores/Players.h"
 #include "session/Program.h"
 #include "settings/SettingKeys.h"
+#include "settings/mCustomize.h"
 
 namespace qv {
 
@@ -26,8 +27,12 @@ void StartUp(Program& app) {
     if (app.cRegistry.Get(setting::SessionRunning) == 1) TakeUpCrashedGame(app);
     app.cRegistry.Set(setting::SessionRunning, 1);
   }
+  ApplyBackground(app);
   app.cData.SesStartTime(GeneralDate(app.surface.clock.Now()));
   if (PlayerCount(app.cRegistry) == 0) SetPlayer(app.cRegistry, 1, "Player1", true);
+  SetWallTimer(app);
+  if (app.cRegistry.Get(setting::WPTimerValue) == 5) PickWallpaper(app);
+  app.cSound.Preload();
 }
 
 void ShutDown(Program& app) {

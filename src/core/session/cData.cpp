@@ -6,6 +6,7 @@
 
 #include "engine/mStudio.h"
 #include "session/Program.h"
+#include "settings/ColorScheme.h"
 
 namespace qv {
 
@@ -82,9 +83,32 @@ std::string cData::SchemeFolder(FolderUse use) const { return SubFolder(AppDir(u
 std::string cData::PendingFolder(FolderUse use) const { return SubFolder(AppDir(use), "Pending List", use); }
 std::string cData::AutoSaveFolder(FolderUse use) const { return SubFolder(SavedFolder(use), "AutoSave Files", use); }
 
-std::string cData::ProgramFolder() const { return app_.folders.program.string(); }
+std::string cData::ProgramFolder() const {
+  // Built, the sounds lie beside the program; installed, in ../share/quorvale from it.
+  const auto& program = app_.folders.program;
+  std::error_code ec;
+  const auto shared = program.parent_path() / "share" / "quorvale";
+  if (!std::filesystem::exists(program / "Start.wav", ec) && std::filesystem::is_directory(shared, ec))
+    return shared.string();
+  return program.string();
+}
 
 std::string cData::UnFinFile() const { return (std::filesystem::path(AppDir()) / ("Unfin" + IncExt())).string(); }
+
+std::string cData::DefaultSchemeFile(FolderUse use) const {
+  return (std::filesystem::path(SchemeFolder(use)) / "Default Color Scheme").string();
+}
+
+void cData::CreateDefaultSchemeFile() const {
+  const std::string path = DefaultSchemeFile();
+  if (!app_.cFileSys.Exists(path)) WriteScheme(app_.cFileSys, path, kDefaultScheme);
+}
+
+std::string cData::DefaultCustImageFile(FolderUse use) const {
+  const std::string path = (std::filesystem::path(SavedFolder(use)) / "CustomImage.bmp").string();
+  if (use == FolderUse::Write && !app_.cFileSys.Exists(path)) app_.surface.background->SaveDefaultImage(path);
+  return path;
+}
 
 void cData::SetGame(int Gid, const std::string& gName, bool IsOriginal, int cDeck) {
   static const char* const kDecks[] = {"Half (26 Cards)", "One (52 Cards)", "Two (104 Cards)"};

@@ -49,6 +49,11 @@ class cData {
   std::string AutoSaveFolder(FolderUse use = FolderUse::Write) const;
   std::string ProgramFolder() const;
   std::string UnFinFile() const;
+  // The scheme "Default Color Scheme", green above dark red; Create writes it when missing.
+  std::string DefaultSchemeFile(FolderUse use = FolderUse::Write) const;
+  void CreateDefaultSchemeFile() const;
+  // "CustomImage.bmp", written from the library's picture when missing (Write only).
+  std::string DefaultCustImageFile(FolderUse use = FolderUse::Write) const;
 
   void SetGame(int Gid, const std::string& gName, bool IsOriginal, int cDeck);
   bool GameExists(const std::string& gName) const { return GetGameID(gName) != 0; }

@@ -14,6 +14,7 @@
 #include "session/SavedGameCheck.h"
 #include "session/SavedGameFile.h"
 #include "settings/SettingKeys.h"
+#include "settings/mCustomize.h"
 
 namespace qv {
 
@@ -46,7 +47,7 @@ bool cGamePlay::StartGame(const std::string& cGameName, const qv::GameNo& cGameN
   pauseStatus_ = false;
   app_.surface.window.ShowPaused(false);
   loadingType_ = cLoadType;
-  // The background picker joins with the backgrounds; WPTimerValue 4 asks for it here.
+  if (app_.cRegistry.Get(setting::WPTimerValue) == 4) PickWallpaper(app_);
   gameName_ = cGameName;
   gameNo_ = cGameNo;
   startTime_ = GeneralDate(app_.surface.clock.Now());

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "surface/Picture.h"
+#include "surface/Rgb.h"
 
 namespace qv {
 
@@ -43,6 +44,17 @@ class cImages {
   int DeckGroup(int index) const;
   // The group names, with their count as text in element 0.
   std::vector<std::string> DeckGroups() const;
+
+  // The backgrounds: textures 1 to TextureCount in groups, named colours 1 to ColorCount
+  // (7 a felt green, the first table of a new player), built-in pictures 1 to ImageCount.
+  int TextureCount() const;
+  int TextureGroup(int index) const;
+  std::vector<std::string> TextureGroups() const;  // the count as text in element 0
+  int ColorCount() const;
+  std::string ColorName(int index) const;
+  Rgb ColorValue(int index) const;
+  int ImageCount() const;
+  std::string ImageName(int index) const;
 
  private:
   static Picture Preview(Picture::Kind kind, int a, int b) {
