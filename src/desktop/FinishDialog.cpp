@@ -46,7 +46,7 @@ FinishDialog::FinishDialog(Program& app, QWidget* parent)
   auto* fav = new QCheckBox("Add this Game to Favorites");
   fav->setObjectName("chkFav");
   fav->setChecked(app.cRegistry.Get(setting::AddtoFav) != 0);
-  fav->setEnabled(false);  // the favourites are not there yet
+  connect(fav, &QCheckBox::toggled, this, [this](bool on) { app_.cRegistry.Set(setting::AddtoFav, on ? 1 : 0); });
   auto* grid = new QGridLayout(frame);
   grid->addWidget(save_, 0, 0, 1, 2);
   grid->addWidget(path_, 1, 0);

@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "TestProgram.h"
+#include "lists/Favorites.h"
 #include "lists/Pending.h"
 #include "lists/Recent.h"
 #include "scores/Finish.h"
@@ -255,6 +256,7 @@ TEST_F(Store, PlayersKeepTheirSlotsAndTheirFiles) {
 TEST_F(Store, AWinIsRecordedBeforeTheFinishShowsAndItsCloseKeepsTheGame) {
   StartUp(*t.app);
   t->cRegistry.Set(setting::SaveFile, 1);
+  t->cRegistry.Set(setting::AddtoFav, 1);
   test::PlayWithRules(t, {.HOrder = 5, .MOrder = 5});
   int32_t timeAtWin = -1;
   size_t linesAtWin = 0;
@@ -280,6 +282,7 @@ TEST_F(Store, AWinIsRecordedBeforeTheFinishShowsAndItsCloseKeepsTheGame) {
   const std::string saved = t->cData.SavedFolder() + "/Test Rules-1.vq1";
   EXPECT_TRUE(fs::exists(saved));
   EXPECT_EQ(RecentMenuEntries(*t.app, kRecentSaved).at(0), saved);
+  EXPECT_EQ(ReadFavFile(t->cData.FavFolder() + "/Test Rules - 1")->GameName, "Test Rules");
   // The stop that follows leaves nothing to come back.
   ShutDown(*t.app);
   EXPECT_EQ(t->cScore.SesTop(), 1);

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "lists/AutoSave.h"
+#include "lists/Favorites.h"
 #include "lists/Recent.h"
 #include "session/Program.h"
 #include "settings/SettingKeys.h"
@@ -34,7 +35,7 @@ std::string FinishSavePath(const Program& app) { return FinishSavePath(app, app.
 void CloseFinish(Program& app, const std::string& savePath) {
   if (app.cRegistry.Get(setting::SaveFile) == 1 && !savePath.empty() && app.cEngine.SavetoFile(savePath))
     AddRecent(app, kRecentSaved, savePath);
-  // "Add this Game to Favorites" joins when the favourites do.
+  if (app.cRegistry.Get(setting::AddtoFav) == 1) AddFavFile(app);
   app.cGamePlay.ClearArea();
   app.surface.window.RefreshMenus();
 }

@@ -14,7 +14,8 @@ void RecordWin(Program& app);
 std::string FinishSavePath(const Program& app, const std::string& folder);
 std::string FinishSavePath(const Program& app);
 // Closing "Congrats" by any means: keeps the game where `savePath` says when "Save this
-// Game" is on, then clears the table. A write that fails costs the copy and nothing else.
+// Game" is on, adds the deal to the favourites when "Add this Game to Favorites" is, then
+// clears the table. A write that fails costs the copy and nothing else.
 void CloseFinish(Program& app, const std::string& savePath);
 
 }  // namespace qv
