@@ -6,6 +6,7 @@
 
 #include "CliSurface.h"
 #include "Script.h"
+#include "Solve.h"
 #include "StateJson.h"
 #include "lists/AutoSave.h"
 #include "lists/Pending.h"
@@ -33,6 +34,14 @@ Commands:
   recent N           A recent list as the File menu shows it, a JSON array in slot order:
                      0 played, 1 saved, 2 opened. A saved game that no longer reads, or
                      a game no longer in the game list, is left out.
+  solve GAME FROM TO [--budget MS] [--memory MB] [--player [--samples N]] [--solution]
+                     Is each deal from FROM to TO winnable? One JSON line per deal:
+                     number, verdict (winnable, lost or unknown), moves, positions, ms,
+                     peak_mb and limit (what ran out for "unknown"). --budget is the time
+                     per deal (10000 ms), --memory its memory (512 MB). --solution adds
+                     script: the winning moves as `run` lines. --player samples N (20)
+                     orders of the cards not yet seen: chance, low and high (95%).
+  solve FILE [...]   The same for the position of a saved game.
   --help             Show this text.
 
 deal, replay and the lists only look: they write no setting and no file.
@@ -144,5 +153,6 @@ int main(int argc, char** argv) {
   if (args[0] == "run" && args.size() <= 2) return RunScript(args);
   if ((args[0] == "autosave-list" || args[0] == "pending-list") && args.size() == 1) return List(args);
   if (args[0] == "recent" && args.size() == 2) return List(args);
+  if (args[0] == "solve") return qv::SolveCommand(args);
   return Fail(qv::kUsageError, "unknown command or wrong arguments; see quorvale-cli --help");
 }

@@ -1,0 +1,199 @@
+#include "solver/Solver.h"
+
+#include <algorithm>
+#include <chrono>
+#include <queue>
+
+#include "solver/PositionTable.h"
+
+namespace qv {
+
+namespace {
+
+// How far a position has come: sets out above all, then cards turned up, piles emptied
+// and cards lying in suit on the next rank up; a card dealt from the Stock costs a little,
+// so rows come when the table has nothing better.
+int Progress(const SolverGame& g, const SolverPosition& p) {
+  const MoveRules& r = g.Rules();
+  // A card double-clicked home alone (an Ace, mostly) keeps its set from ever leaving.
+  const int home = p.OnFoundations();
+  int score = 1300 * (home / kSetCards) - 150 * (home % kSetCards) + 10 * p.stock;
+  int i = 0;
+  for (int s = 0; s < r.Piles; ++s) {
+    if (p.len[s] == 0) score += 60;
+    for (int q = 0; q < p.len[s]; ++q, ++i) {
+      const CardRec& c = g.Value(p.cards[i]);
+      if (!c.FaceMode) {
+        score -= 100;
+      } else if (q > 0) {
+        const CardRec& under = g.Value(p.cards[i - 1]);
+        if (under.FaceMode && under.Suit == c.Suit && InOrder(under, c, r.MultiOrder, r.AK)) score += 12;
+      }
+    }
+  }
+  return score;
+}
+
+// A position waiting to be looked at: reached from an expanded one by one move.
+struct Open {
+  int score;
+  uint32_t order;   // later first among equals, so a line of play is followed
+  uint32_t parent;  // index into expanded
+  SolverMove move;
+  bool operator<(const Open& o) const { return score != o.score ? score < o.score : order < o.order; }
+};
+
+struct Expanded {
+  SolverPosition pos;
+  uint32_t parent;
+  SolverMove via;
+};
+
+class Search {
+ public:
+  // A narrow search takes only the moves that make progress (and rows): it is quick to
+  // find most wins, but its running out proves nothing.
+  Search(const SolverGame& g, const SolverBudget& b, std::stop_token stop, const std::function<bool()>& hook,
+         bool narrow)
+      : g_(g), budget_(b), stop_(std::move(stop)), hook_(hook), narrow_(narrow), seen_(static_cast<size_t>(b.mb) << 19) {}
+
+  SolverResult Run();
+
+ private:
+  bool OutOfBudget();
+  size_t Bytes() const {
+    return seen_.Bytes() + expanded_.capacity() * sizeof(Expanded) + open_.size() * sizeof(Open);
+  }
+  SolverResult Finish(Verdict v, uint32_t last = 0);
+
+  const SolverGame& g_;
+  SolverBudget budget_;
+  std::stop_token stop_;
+  const std::function<bool()>& hook_;
+  bool narrow_;
+  PositionTable seen_;
+  std::vector<Expanded> expanded_;
+  std::priority_queue<Open> open_;
+  std::vector<SolverMove> moves_;
+  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+  int64_t positions_ = 0;
+  size_t peakBytes_ = 0;
+  uint32_t order_ = 0;
+  std::string limit_;
+};
+
+bool Search::OutOfBudget() {
+  if (stop_.stop_requested() || (hook_ && !hook_())) limit_ = "stop";
+  else if (budget_.positions > 0 && positions_ >= budget_.positions) limit_ = "positions";
+  else if (Bytes() > static_cast<size_t>(budget_.mb) << 20) limit_ = "memory";
+  else if ((expanded_.size() & 63) == 0 && std::chrono::steady_clock::now() - start_ >= std::chrono::milliseconds(budget_.ms))
+    limit_ = "time";
+  return !limit_.empty();
+}
+
+SolverResult Search::Finish(Verdict v, uint32_t last) {
+  SolverResult r;
+  r.verdict = v;
+  r.positions = positions_;
+  r.ms = std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start_).count();
+  r.peakMb = static_cast<double>(std::max(peakBytes_, Bytes())) / (1 << 20);
+  if (v == Verdict::Unknown) r.limit = limit_;
+  if (v == Verdict::Winnable) {
+    for (uint32_t n = last; n != 0; n = expanded_[n].parent) r.solution.push_back(expanded_[n].via);
+    std::reverse(r.solution.begin(), r.solution.end());
+    // A solution is told only after it has been played again from the start.
+    if (!ReplaysToWin(g_, r.solution)) {
+      r.verdict = Verdict::Unknown;
+      r.limit = "replay";
+      r.solution.clear();
+    }
+  }
+  return r;
+}
+
+SolverResult Search::Run() {
+  if (budget_.ms <= 0) {
+    limit_ = "time";
+    return Finish(Verdict::Unknown);
+  }
+  const SolverPosition& start = g_.Start();
+  seen_.Visit(g_.Hash(start), start.room);
+  positions_ = 1;
+  if (g_.Won(start)) return Finish(Verdict::Winnable);
+  expanded_.push_back({start, 0, {}});
+  uint32_t current = 0;
+  for (;;) {
+    // Every position reached from the one in hand goes on the open list once.
+    g_.Moves(expanded_[current].pos, moves_);
+    const int here = narrow_ ? Progress(g_, expanded_[current].pos) : 0;
+    for (const SolverMove& m : moves_) {
+      if (OutOfBudget()) return Finish(Verdict::Unknown);
+      SolverPosition next = expanded_[current].pos;
+      g_.Apply(next, m);
+      const int score = Progress(g_, next);
+      if (narrow_ && score <= here && m.kind != SolverMove::Stock) continue;
+      switch (seen_.Visit(g_.Hash(next), next.room)) {
+        case PositionTable::Known: continue;
+        case PositionTable::Full: limit_ = "memory"; return Finish(Verdict::Unknown);
+        case PositionTable::Added: break;
+      }
+      ++positions_;
+      if (g_.Won(next)) {
+        expanded_.push_back({next, current, m});
+        return Finish(Verdict::Winnable, static_cast<uint32_t>(expanded_.size() - 1));
+      }
+      open_.push({score, ++order_, current, m});
+    }
+    peakBytes_ = std::max(peakBytes_, Bytes());
+    if (open_.empty()) return Finish(Verdict::Lost);
+    const Open o = open_.top();
+    open_.pop();
+    SolverPosition next = expanded_[o.parent].pos;
+    g_.Apply(next, o.move);
+    expanded_.push_back({next, o.parent, o.move});
+    current = static_cast<uint32_t>(expanded_.size() - 1);
+  }
+}
+
+}  // namespace
+
+const char* VerdictName(Verdict v) {
+  switch (v) {
+    case Verdict::Winnable: return "winnable";
+    case Verdict::Lost: return "lost";
+    default: return "unknown";
+  }
+}
+
+SolverResult Solve(const SolverGame& game, const SolverBudget& budget, std::stop_token stop,
+                   const std::function<bool()>& nodeHook) {
+  // The narrow search first; when it runs dry, the whole one with the time left.
+  const auto start = std::chrono::steady_clock::now();
+  SolverResult r = Search(game, budget, stop, nodeHook, true).Run();
+  if (r.verdict != Verdict::Lost) return r;
+  SolverBudget rest = budget;
+  rest.ms -= std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start).count();
+  if (rest.positions > 0) rest.positions = std::max<int64_t>(1, rest.positions - r.positions);
+  SolverResult full = Search(game, rest, std::move(stop), nodeHook, false).Run();
+  full.positions += r.positions - 1;  // the start once
+  full.ms += r.ms;
+  full.peakMb = std::max(full.peakMb, r.peakMb);
+  return full;
+}
+
+SolverResult SolveTable(const Table& t, const cGames& g, int room, const SolverBudget& budget, std::stop_token stop) {
+  return Solve(SolverGame(t, g, room), budget, std::move(stop));
+}
+
+bool ReplaysToWin(const SolverGame& game, const std::vector<SolverMove>& solution) {
+  SolverPosition p = game.Start();
+  std::vector<SolverMove> offered;
+  for (const SolverMove& m : solution) {
+    game.Moves(p, offered);
+    if (std::find(offered.begin(), offered.end(), m) == offered.end()) return false;
+    game.Apply(p, m);
+  }
+  return game.Won(p);
+}
+
+}  // namespace qv
