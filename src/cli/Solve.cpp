@@ -90,40 +90,35 @@ std::string Line(const std::string& numberJson, const Table& t, const cGames& g,
   SolverGame game(t, g, room);
   std::ostringstream out;
   out << "{\"number\":" << numberJson;
-  if (!o.player) {
-    const SolverResult r = Solve(game, o.budget, {}, stopped);
-    out << ",\"verdict\":\"" << VerdictName(r.verdict) << "\",\"moves\":" << r.solution.size()
-        << ",\"positions\":" << r.positions << ",\"ms\":" << r.ms << ",\"peak_mb\":" << Fixed(r.peakMb, 1)
-        << ",\"limit\":" << JsonText(r.limit);
-    if (o.solution && r.verdict == Verdict::Winnable) out << ",\"script\":" << ScriptOf(game, r.solution);
-    return out.str() + "}";
-  }
-  // The player's view: the cards not yet seen could lie in any order.
+  const SolverResult r = Solve(game, o.budget, {}, stopped);
+  out << ",\"verdict\":\"" << VerdictName(r.verdict) << "\",\"moves\":" << r.solution.size()
+      << ",\"positions\":" << r.positions << ",\"ms\":" << r.ms << ",\"peak_mb\":" << Fixed(r.peakMb, 1)
+      << ",\"limit\":" << JsonText(r.limit);
+  if (o.solution && r.verdict == Verdict::Winnable) out << ",\"script\":" << ScriptOf(game, r.solution);
+  if (!o.player) return out.str() + "}";
+  // The player's view: the cards not yet seen could lie in any order; each sample has
+  // an equal share of the budget.
   std::mt19937_64 random(std::hash<std::string>{}(numberJson));
   const std::vector<uint8_t> unseen = game.Unseen();
   SolverBudget each = o.budget;
   each.ms = std::max<int64_t>(1, o.budget.ms / o.samples);
   int winnable = 0, lost = 0;
-  int64_t positions = 0, ms = 0;
-  double peak = 0;
   for (int i = 0; i < o.samples && !interrupted; ++i) {
     std::vector<uint8_t> order = unseen;
     std::shuffle(order.begin(), order.end(), random);
     SolverGame sample = game;
     sample.Rearrange(order);
-    const SolverResult r = Solve(sample, each, {}, stopped);
-    winnable += r.verdict == Verdict::Winnable;
-    lost += r.verdict == Verdict::Lost;
-    positions += r.positions, ms += r.ms, peak = std::max(peak, r.peakMb);
+    const Verdict v = Solve(sample, each, {}, stopped).verdict;
+    winnable += v == Verdict::Winnable;
+    lost += v == Verdict::Lost;
   }
   double low = 0, high = 0, ignored = 0;
   // An arrangement left undecided counts against the low end and for the high one.
   Wilson(winnable, o.samples, low, ignored);
   Wilson(o.samples - lost, o.samples, ignored, high);
-  out << ",\"verdict\":\"player\",\"samples\":" << o.samples << ",\"winnable\":" << winnable << ",\"lost\":" << lost
+  out << ",\"samples\":" << o.samples << ",\"samples_winnable\":" << winnable << ",\"samples_lost\":" << lost
       << ",\"chance\":" << Fixed(static_cast<double>(winnable) / o.samples, 3) << ",\"low\":" << Fixed(low, 3)
-      << ",\"high\":" << Fixed(high, 3) << ",\"positions\":" << positions << ",\"ms\":" << ms
-      << ",\"peak_mb\":" << Fixed(peak, 1);
+      << ",\"high\":" << Fixed(high, 3);
   return out.str() + "}";
 }
 
