@@ -11,7 +11,7 @@ namespace qv {
 namespace {
 
 // How far a position has come: sets out above all, then cards turned up, piles emptied
-// and cards lying in suit on the next rank up; a card dealt from the Stock costs a little,
+// and cards lying on a card they may move on with; a card dealt from the Stock costs a little,
 // so rows come when the table has nothing better.
 int Progress(const SolverGame& g, const SolverPosition& p) {
   const MoveRules& r = g.Rules();
@@ -27,35 +27,40 @@ int Progress(const SolverGame& g, const SolverPosition& p) {
         score -= 100;
       } else if (q > 0) {
         const CardRec& under = g.Value(p.cards[i - 1]);
-        if (under.FaceMode && under.Suit == c.Suit && InOrder(under, c, r.MultiOrder, r.AK)) score += 12;
+        if (under.FaceMode && InOrder(under, c, r.MultiOrder, r.AK)) score += 12;
       }
     }
   }
   return score;
 }
 
+enum class Mode { Dive, Narrow, Whole };
+
 // A position waiting to be looked at: reached from an expanded one by one move.
 struct Open {
-  int score;
+  int64_t key;      // higher first
   uint32_t order;   // later first among equals, so a line of play is followed
   uint32_t parent;  // index into expanded
   SolverMove move;
-  bool operator<(const Open& o) const { return score != o.score ? score < o.score : order < o.order; }
+  bool operator<(const Open& o) const { return key != o.key ? key < o.key : order < o.order; }
 };
 
 struct Expanded {
   SolverPosition pos;
   uint32_t parent;
   SolverMove via;
+  int depth;
 };
 
 class Search {
  public:
-  // A narrow search takes only the moves that make progress (and rows): it is quick to
-  // find most wins, but its running out proves nothing.
+  // A narrow search takes only the moves that make progress (and rows): quick to find
+  // most wins, but its running out proves nothing. A dive goes depth first with the best
+  // move first and a row last; the others go best first.
   Search(const SolverGame& g, const SolverBudget& b, std::stop_token stop, const std::function<bool()>& hook,
-         bool narrow)
-      : g_(g), budget_(b), stop_(std::move(stop)), hook_(hook), narrow_(narrow), seen_(static_cast<size_t>(b.mb) << 19) {}
+         Mode mode)
+      : g_(g), budget_(b), stop_(std::move(stop)), hook_(hook), mode_(mode), narrow_(mode != Mode::Whole),
+        seen_(static_cast<size_t>(b.mb) << 19) {}
 
   SolverResult Run();
 
@@ -70,6 +75,7 @@ class Search {
   SolverBudget budget_;
   std::stop_token stop_;
   const std::function<bool()>& hook_;
+  Mode mode_;
   bool narrow_;
   PositionTable seen_;
   std::vector<Expanded> expanded_;
@@ -120,7 +126,7 @@ SolverResult Search::Run() {
   seen_.Visit(g_.Hash(start), start.room);
   positions_ = 1;
   if (g_.Won(start)) return Finish(Verdict::Winnable);
-  expanded_.push_back({start, 0, {}});
+  expanded_.push_back({start, 0, {}, 0});
   uint32_t current = 0;
   for (;;) {
     // Every position reached from the one in hand goes on the open list once.
@@ -139,10 +145,12 @@ SolverResult Search::Run() {
       }
       ++positions_;
       if (g_.Won(next)) {
-        expanded_.push_back({next, current, m});
+        expanded_.push_back({next, current, m, 0});
         return Finish(Verdict::Winnable, static_cast<uint32_t>(expanded_.size() - 1));
       }
-      open_.push({score, ++order_, current, m});
+      const int depth = expanded_[current].depth + 1;
+      const int64_t key = mode_ == Mode::Dive ? (int64_t{depth} << 32) + score - (m.kind == SolverMove::Stock ? 1 << 24 : 0) : score;
+      open_.push({key, ++order_, current, m});
     }
     peakBytes_ = std::max(peakBytes_, Bytes());
     if (open_.empty()) return Finish(Verdict::Lost);
@@ -150,7 +158,7 @@ SolverResult Search::Run() {
     open_.pop();
     SolverPosition next = expanded_[o.parent].pos;
     g_.Apply(next, o.move);
-    expanded_.push_back({next, o.parent, o.move});
+    expanded_.push_back({next, o.parent, o.move, expanded_[o.parent].depth + 1});
     current = static_cast<uint32_t>(expanded_.size() - 1);
   }
 }
@@ -167,18 +175,27 @@ const char* VerdictName(Verdict v) {
 
 SolverResult Solve(const SolverGame& game, const SolverBudget& budget, std::stop_token stop,
                    const std::function<bool()>& nodeHook) {
-  // The narrow search first; when it runs dry, the whole one with the time left.
+  // Quick narrow searches first, each with a share of the time; when they run dry or out
+  // of their share, the whole search with the time left decides.
   const auto start = std::chrono::steady_clock::now();
-  SolverResult r = Search(game, budget, stop, nodeHook, true).Run();
-  if (r.verdict != Verdict::Lost) return r;
-  SolverBudget rest = budget;
-  rest.ms -= std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start).count();
-  if (rest.positions > 0) rest.positions = std::max<int64_t>(1, rest.positions - r.positions);
-  SolverResult full = Search(game, rest, std::move(stop), nodeHook, false).Run();
-  full.positions += r.positions - 1;  // the start once
-  full.ms += r.ms;
-  full.peakMb = std::max(full.peakMb, r.peakMb);
-  return full;
+  SolverResult total;
+  const std::pair<Mode, int> stages[] = {{Mode::Dive, 15}, {Mode::Narrow, 45}, {Mode::Whole, 100}};
+  for (const auto& [mode, percent] : stages) {
+    const int64_t spent =
+        std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start).count();
+    SolverBudget b = budget;
+    b.ms = mode == Mode::Whole ? budget.ms - spent : std::max<int64_t>(1, budget.ms * percent / 100);
+    if (budget.ms <= 0) b.ms = 0;
+    if (b.positions > 0) b.positions = std::max<int64_t>(1, budget.positions - total.positions);
+    SolverResult r = Search(game, b, stop, nodeHook, mode).Run();
+    r.positions += total.positions - (total.positions > 0);  // the start counts once
+    r.ms = spent + r.ms;
+    r.peakMb = std::max(r.peakMb, total.peakMb);
+    total = r;
+    const bool ranDry = mode != Mode::Whole && (r.verdict == Verdict::Lost || r.limit == "time");
+    if (!ranDry) break;
+  }
+  return total;
 }
 
 SolverResult SolveTable(const Table& t, const cGames& g, int room, const SolverBudget& budget, std::stop_token stop) {
