@@ -8,6 +8,8 @@
 #include "engine/Table.h"
 #include "engine/cGames.h"
 #include "engine/mStudio.h"
+#include "session/Commands.h"
+#include "solver/Hint.h"
 #include "solver/Solver.h"
 
 namespace qv {
@@ -149,6 +151,22 @@ TEST(Solver, EmptyPilesAndWrapFollowTheRules) {
   EXPECT_TRUE(offered(wrap, {SolverMove::Drag, 0, 0, 0, 3}));
   // With the Stock empty one empty pile stands for all of them.
   EXPECT_FALSE(offered(kings, {SolverMove::Drag, 0, 0, 0, 4}));
+}
+
+TEST(Solver, HintTellsTheNextMoveAndWhy) {
+  Laid a(kOneSuit, {KingToTwo(3), {{0, 0, 3}}});
+  const SolverGame g(a.table, a.games, 1000);
+  EXPECT_EQ(MoveSentence(g, g.Start(), {SolverMove::Drag, 0, 1, 0, 0}, false),
+            "Move the Ace of Spades from pile 2 onto the 2 of Spades on pile 1: it completes a set");
+  EXPECT_EQ(MoveSentence(g, g.Start(), {SolverMove::Drag, 0, 0, 3, 2}, false),
+            "Move the 10 of Spades and the 8 cards on it from pile 1 to the empty pile 3: it keeps the game winnable");
+  test::TestProgram t;
+  t.Deal("Spider Single Suit", 3);
+  ASSERT_TRUE(CommandEnabled(*t, "Hint"));
+  ExecCommand(*t, "Hint");
+  ASSERT_EQ(t.dialogs.shown.size(), 1u);
+  EXPECT_TRUE(t.dialogs.shown[0].find(": it ") != std::string::npos) << t.dialogs.shown[0];
+  EXPECT_EQ(t->cEngine.GetTransID(), 0);  // a hint moves nothing
 }
 
 TEST(Solver, PilesHashAsAMultisetOnlyWithTheStockEmpty) {

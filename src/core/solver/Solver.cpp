@@ -202,6 +202,20 @@ SolverResult SolveTable(const Table& t, const cGames& g, int room, const SolverB
   return Solve(SolverGame(t, g, room), budget, std::move(stop));
 }
 
+std::optional<SolverMove> BestMove(const SolverGame& game, const SolverPosition& p) {
+  std::vector<SolverMove> moves;
+  game.Moves(p, moves);
+  std::optional<SolverMove> best;
+  int bestScore = 0;
+  for (const SolverMove& m : moves) {
+    SolverPosition next = p;
+    game.Apply(next, m);
+    const int score = Progress(game, next) - (m.kind == SolverMove::Stock ? 1 << 24 : 0);
+    if (!best || score > bestScore) best = m, bestScore = score;
+  }
+  return best;
+}
+
 bool ReplaysToWin(const SolverGame& game, const std::vector<SolverMove>& solution) {
   SolverPosition p = game.Start();
   std::vector<SolverMove> offered;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <stop_token>
 #include <string>
 #include <vector>
@@ -42,6 +43,10 @@ SolverResult Solve(const SolverGame& game, const SolverBudget& budget, std::stop
 // The table as it lies, with the journal's room left.
 SolverResult SolveTable(const Table& t, const cGames& g, int room, const SolverBudget& budget,
                         std::stop_token stop = {});
+
+// The move a search tries first where it stands: the one that makes the most progress,
+// a row only when nothing else moves. None when no move is left.
+std::optional<SolverMove> BestMove(const SolverGame& game, const SolverPosition& p);
 
 // Is the solution a list of moves, each offered where it is made, that ends on a won table?
 bool ReplaysToWin(const SolverGame& game, const std::vector<SolverMove>& solution);
