@@ -8,6 +8,7 @@
 
 #include "CardPainter.h"
 #include "QtSprites.h"
+#include "SolverIndicator.h"
 #include "TableView.h"
 #include "Windows.h"
 #include "lists/Pending.h"
@@ -45,6 +46,7 @@ MainWindow::MainWindow(ISettingsStore& store, QWidget* parent)
     UpdateCommands();
     view_->FitTable();
     app_->keeper.Tick();
+    solver_->Tick();
   });
   connect(&TimerOf(Timer::Time), &QTimer::timeout, this, [this] { app_->cGamePlay.Update_Title(); });
   connect(&TimerOf(Timer::Game), &QTimer::timeout, this, [this] { app_->cGamePlay.TickGame(); });
@@ -52,6 +54,7 @@ MainWindow::MainWindow(ISettingsStore& store, QWidget* parent)
   connect(&TimerOf(Timer::Backward), &QTimer::timeout, this, [this] { ReplayTick(*app_, false); });
   BuildMenus();
   BuildToolbar();
+  solver_ = new SolverIndicator(*app_, menuBar(), this);
   for (auto it = actions_.cbegin(); it != actions_.cend(); ++it)
     if (it.key() != "Stop" && it.key() != "OrgPend")  // kept by the replay and the pending list
       commands_.push_back({it.key().toStdString(), it.value(), toolbarItems_.value(it.key())});
@@ -216,6 +219,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     return;
   }
   for (auto& timer : timers_) timer->stop();
+  solver_->Stop();
   event->accept();
 }
 

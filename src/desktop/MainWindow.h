@@ -21,6 +21,7 @@ namespace qv {
 class ISettingsStore;
 class Program;
 class QtSprites;
+class SolverIndicator;
 class TableView;
 
 // The one main window: the table, the menus and toolbar built from the command table,
@@ -34,6 +35,7 @@ class MainWindow : public QMainWindow, public IWindow {
   Program& app() { return *app_; }
   TableView& view() { return *view_; }
   QtSprites& sprites() { return *sprites_; }
+  SolverIndicator& solver() { return *solver_; }
   // The load step: title, start-up, menus and toolbar. FirstGame follows it.
   void Load();
   QAction* Action(const QString& key) const { return actions_.value(key); }
@@ -90,6 +92,7 @@ class MainWindow : public QMainWindow, public IWindow {
   QMenu* pendMenu_ = nullptr;
   std::vector<QAction*> pendEntries_;
   bool loaded_ = false;  // the load step has run: there is a session to stop
+  SolverIndicator* solver_ = nullptr;
 };
 
 }  // namespace qv

@@ -179,7 +179,7 @@ SolverResult Solve(const SolverGame& game, const SolverBudget& budget, std::stop
   // of their share, the whole search with the time left decides.
   const auto start = std::chrono::steady_clock::now();
   SolverResult total;
-  const std::pair<Mode, int> stages[] = {{Mode::Dive, 15}, {Mode::Narrow, 45}, {Mode::Whole, 100}};
+  const std::pair<Mode, int> stages[] = {{Mode::Dive, 3}, {Mode::Narrow, 50}, {Mode::Whole, 100}};
   for (const auto& [mode, percent] : stages) {
     const int64_t spent =
         std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start).count();
