@@ -15,6 +15,7 @@
 #include "HotGamesDialog.h"
 #include "CardPainter.h"
 #include "MainWindow.h"
+#include "NewWinnable.h"
 #include "OptionsDialog.h"
 #include "PendingDialog.h"
 #include "ToolbarDialog.h"
@@ -81,6 +82,7 @@ void OpenProgramWindow(MainWindow& main, const QString& key) {
   else if (key == "Deck") CardDeckDialog(main.app(), &main).exec();
   else if (key == "Options") OptionsDialog(main.app(), &main).exec();
   else if (key == "Open") OpenGame(main);
+  else if (key == "NewWinnable") NewWinnableGame(main);
   else if (key == "Save") SaveGame(main);
   else if (key == "AutoSave") AutoSaveDialog(main.app(), &main).exec();
   else if (key == "OrgPend") PendingDialog(main.app(), &main).exec();

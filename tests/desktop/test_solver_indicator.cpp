@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPainter>
+#include <QProgressDialog>
 #include <QTabWidget>
 #include <QtTest>
 #include <atomic>
@@ -81,6 +82,17 @@ class TestSolverIndicator : public QObject {
     QCOMPARE(w_->menuBar()->cornerWidget()->objectName(), QString("SolverIndicator"));
   }
 
+  void newWinnableDealsANumberProvedWinnable() {
+    app().cRegistry.Set(setting::SolverSeconds, 2);
+    app().cGamePlay.PlayNumber("Spider Single Suit", GameNo::Number(1));
+    ExecCommand(app(), "NewWinnable");
+    QCOMPARE(app().cGamePlay.Game_Status(), 1);
+    QCOMPARE(QString::fromStdString(app().cGamePlay.GameName()), QString("Spider Single Suit"));
+    QVERIFY(app().cGamePlay.GameNo().Text() != "1");
+    const SolverResult r = SolveTable(app().cPlay.table(), app().cGames, 30000, {20000, 256, 0});
+    QCOMPARE(r.verdict, Verdict::Winnable);
+  }
+
   // With QUORVALE_SHOTS set to a folder: the indicator's four words, a hint and the
   // Solver tab, as pictures for the documentation.
   void screenshots() {
@@ -123,6 +135,17 @@ class TestSolverIndicator : public QObject {
       }
     });
     ExecCommand(app(), "Hint");
+    // New Winnable Game's progress: Plaza's deals mostly take their whole second each.
+    app().cRegistry.Set(setting::SolverSeconds, 1);
+    w_->solver().solve = [](const TableCopy&, const SolverBudget&, std::stop_token) { return SolverResult{}; };
+    app().cGamePlay.PlayNumber("Plaza", GameNo::Number(1));
+    QTimer::singleShot(3500, [&] {
+      if (auto* progress = w_->findChild<QProgressDialog*>("frmNewWinnable")) {
+        progress->grab().save(dir + "/solver-new-winnable.png");
+        emit progress->canceled();  // as the Cancel button does
+      }
+    });
+    ExecCommand(app(), "NewWinnable");
     OptionsDialog options(app(), w_.get());
     auto* tabs = options.findChild<QTabWidget*>("SSTab1");
     tabs->setCurrentIndex(tabs->count() - 1);
