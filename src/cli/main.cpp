@@ -44,7 +44,7 @@ Commands:
   solve FILE [...]   The same for the position of a saved game.
   --help             Show this text.
 
-deal, replay and the lists only look: they write no setting and no file.
+deal, replay, solve and the lists only look: they write no setting and no file.
 
 A script has one command a line; blank lines and lines starting with # are skipped,
 and an argument with blanks goes in double quotes. It starts with no game on the
