@@ -79,6 +79,10 @@ TEST(Solver, HandMadeWinsAndLosses) {
     const SolverResult r = a.Solve();
     ASSERT_EQ(r.verdict, Verdict::Winnable);
     EXPECT_EQ(r.solution, (std::vector<SolverMove>{{SolverMove::Drag, 0, 1, 0, 0}}));
+    // The journal's room counts: the set's 13 records after the drag's one must fit, or
+    // the set stays on its pile and the game cannot be won.
+    EXPECT_EQ(Solve(SolverGame(a.table, a.games, 14), {}).verdict, Verdict::Winnable);
+    EXPECT_EQ(Solve(SolverGame(a.table, a.games, 1), {}).verdict, Verdict::Lost);
   }
   {  // No move at all: Kings, Jacks, Nines, Sevens and Fives on top, nothing under them moves.
     std::vector<std::vector<Want>> piles;
