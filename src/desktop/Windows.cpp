@@ -10,6 +10,7 @@
 
 #include "AnimationDialog.h"
 #include "AutoSaveDialog.h"
+#include "BackToWinnable.h"
 #include "CardDeckDialog.h"
 #include "FileCommands.h"
 #include "HotGamesDialog.h"
@@ -83,6 +84,7 @@ void OpenProgramWindow(MainWindow& main, const QString& key) {
   else if (key == "Options") OptionsDialog(main.app(), &main).exec();
   else if (key == "Open") OpenGame(main);
   else if (key == "NewWinnable") NewWinnableGame(main);
+  else if (key == "BackToWinnable") BackToWinnable(main);
   else if (key == "Save") SaveGame(main);
   else if (key == "AutoSave") AutoSaveDialog(main.app(), &main).exec();
   else if (key == "OrgPend") PendingDialog(main.app(), &main).exec();

@@ -11,6 +11,7 @@
 #include "session/Commands.h"
 #include "solver/Hint.h"
 #include "solver/Solver.h"
+#include "solver/WinnableBack.h"
 
 namespace qv {
 namespace {
@@ -281,6 +282,39 @@ TEST(Solver, MovesAreExactlyThePointersMoves) {
       if (moves.empty()) break;
       PlayThroughPointer(t, moves[random() % moves.size()]);
     }
+  }
+}
+
+// The positions Back chooses from are the table as it lay after each step, and the last
+// winnable one is found by halving.
+TEST(Solver, BackFindsTheLastWinnableStepByHalving) {
+  test::TestProgram t;
+  t.Deal("Spider", 11);
+  std::mt19937 random(5);
+  std::vector<SolverMove> moves;
+  for (int step = 0; step < 30; ++step) {
+    const SolverGame g(t->cPlay.table(), t->cGames, 1000);
+    g.Moves(g.Start(), moves);
+    if (moves.empty()) break;
+    PlayThroughPointer(t, moves[random() % moves.size()]);
+  }
+  const std::vector<TableCopy> at = PositionsAtStepEnds(*t);
+  ASSERT_GT(at.size(), 20u);
+  const SolverGame last(at.back().table, at.back().games, at.back().room);
+  EXPECT_TRUE(Same(last.Start(), Now(t)));
+  EXPECT_EQ(at.back().key, static_cast<uint64_t>(t->cEngine.GetTransID()));
+  for (int boundary : {-1, 0, 7, static_cast<int>(at.size()) - 2, static_cast<int>(at.size()) - 1}) {
+    int asked = 0;
+    const int found = LastWinnable(
+        at,
+        [&](const TableCopy& c) {
+          ++asked;
+          const int i = static_cast<int>(&c - at.data());
+          return i <= boundary ? Verdict::Winnable : i == boundary + 1 ? Verdict::Unknown : Verdict::Lost;
+        },
+        {});
+    EXPECT_EQ(found, boundary);
+    EXPECT_LE(asked, 8);
   }
 }
 

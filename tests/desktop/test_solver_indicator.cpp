@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPainter>
 #include <QProgressDialog>
 #include <QTabWidget>
@@ -91,6 +92,28 @@ class TestSolverIndicator : public QObject {
     QVERIFY(app().cGamePlay.GameNo().Text() != "1");
     const SolverResult r = SolveTable(app().cPlay.table(), app().cGames, 30000, {20000, 256, 0});
     QCOMPARE(r.verdict, Verdict::Winnable);
+  }
+
+  void backStaysWhenTheGameCanStillBeWon() {
+    app().cGamePlay.PlayNumber("Spider Single Suit", GameNo::Number(3));
+    QVERIFY(!w_->Action("BackToWinnable")->isEnabled() || app().cEngine.UndoPossible());
+    PressStock();
+    w_->UpdateCommands();
+    QVERIFY(w_->Action("BackToWinnable")->isEnabled());
+    const int before = app().cEngine.GetTransID();
+    // The answer comes in a message box once the search is done, whenever that is.
+    QString said;
+    QTimer closer;
+    connect(&closer, &QTimer::timeout, [&] {
+      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+        said = box->text();
+        box->close();
+      }
+    });
+    closer.start(20);
+    w_->Action("BackToWinnable")->trigger();
+    QCOMPARE(said, QString("The game can still be won from here."));
+    QCOMPARE(app().cEngine.GetTransID(), before);
   }
 
   // With QUORVALE_SHOTS set to a folder: the indicator's four words, a hint and the

@@ -27,6 +27,7 @@ const std::vector<MenuDef>& MainMenus() {
         {9, "Pause Game", "Pause", "F8"},
         {11, "View Toolbar", "ViewTool", ""},
         {13, "&Hint", "Hint", "H"},
+        {14, "&Back to Last Winnable Position", "BackToWinnable", "Ctrl+B"},
         {15, "New &Winnable Game", "NewWinnable", "F5"}}},
       {"mReplay", "&Replay", 8,
        {{1, "&Forward", "Forward", "Shift+F1"},

@@ -97,6 +97,7 @@ bool CommandEnabled(const Program& app, const std::string& key) {
   if (key == "Redo" || key == "RedoAll" || key == "Forward") return D;
   if (key == "ReplayAll" || key == "MovesMan" || key == "History") return S;
   if (key == "Hint") return R && Q;
+  if (key == "BackToWinnable") return U;
   return true;  // AutoPlay too: its -1 in the game definition means enabled
 }
 
