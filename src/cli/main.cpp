@@ -11,6 +11,7 @@
 #include "Script.h"
 #include "ScoreCommands.h"
 #include "SelectJson.h"
+#include "Solve.h"
 #include "StateJson.h"
 #include "lists/AutoSave.h"
 #include "lists/Pending.h"
@@ -84,13 +85,21 @@ Commands:
   schemes            The colour schemes that read, by name, as a JSON array.
   sounds             The thirty sound events as a JSON array: key, group, label, the
                      file it plays and whether that file exists.
+  solve GAME FROM TO [--budget MS] [--memory MB] [--player [--samples N]] [--solution]
+                     Is each deal from FROM to TO winnable? One JSON line per deal:
+                     number, verdict (winnable, lost or unknown), moves, positions, ms,
+                     peak_mb and limit (what ran out for "unknown"). --budget is the time
+                     per deal (10000 ms), --memory its memory (512 MB). --solution adds
+                     script: the winning moves as `run` lines. --player samples N (20)
+                     orders of the cards not yet seen: chance, low and high (95%).
+  solve FILE [...]   The same for the position of a saved game.
   --help             Show this text.
 
 DATE is a date as the score files hold it, such as 11/17/2026 (default: today).
 Score files: "$XDG_DATA_HOME/Velmarin Works/Quorvale 6.0<player>.sre".
 
-deal, replay, history, moves, games, rules, the lists, scores, top, gamestat, log,
-background, schemes and sounds only look: they write no setting and no file. deal and
+deal, replay, history, moves, games, rules, solve, the lists, scores, top, gamestat,
+log, background, schemes and sounds only look: they write no setting and no file. deal and
 run take created games by name as well.
 
 A script has one command a line; blank lines and lines starting with # are skipped,
@@ -264,5 +273,6 @@ int main(int argc, char** argv) {
       (args[0] == "delete-game" && args.size() == 2))
     return CreatedGames(args);
   if ((args[0] == "background" || args[0] == "schemes" || args[0] == "sounds") && args.size() == 1) return List(args);
+  if (args[0] == "solve") return qv::SolveCommand(args);
   return Fail(qv::kUsageError, "unknown command or wrong arguments; see quorvale-cli --help");
 }

@@ -11,6 +11,7 @@
 #include "QtBackground.h"
 #include "QtSound.h"
 #include "QtSprites.h"
+#include "SolverIndicator.h"
 #include "TableView.h"
 #include "Windows.h"
 #include "lists/Pending.h"
@@ -52,6 +53,7 @@ MainWindow::MainWindow(ISettingsStore& store, QWidget* parent)
     UpdateCommands();
     view_->FitTable();
     app_->keeper.Tick();
+    solver_->Tick();
   });
   connect(&TimerOf(Timer::Time), &QTimer::timeout, this, [this] { app_->cGamePlay.Update_Title(); });
   connect(&TimerOf(Timer::Game), &QTimer::timeout, this, [this] { app_->cGamePlay.TickGame(); });
@@ -65,6 +67,7 @@ MainWindow::MainWindow(ISettingsStore& store, QWidget* parent)
   };
   BuildMenus();
   BuildToolbar();
+  solver_ = new SolverIndicator(*app_, menuBar(), this);
   for (auto it = actions_.cbegin(); it != actions_.cend(); ++it)
     if (it.key() != "Stop" && it.key() != "OrgPend" && it.key() != "OrgFav")  // kept by the replay and the lists
       commands_.push_back({it.key().toStdString(), it.value(), toolbarItems_.value(it.key())});
@@ -243,6 +246,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     return;
   }
   for (auto& timer : timers_) timer->stop();
+  solver_->Stop();
   event->accept();
 }
 

@@ -23,6 +23,7 @@ class Program;
 class QtBackground;
 class QtSound;
 class QtSprites;
+class SolverIndicator;
 class TableView;
 
 // The one main window: the table, the menus and toolbar built from the command table,
@@ -36,6 +37,7 @@ class MainWindow : public QMainWindow, public IWindow {
   Program& app() { return *app_; }
   TableView& view() { return *view_; }
   QtSprites& sprites() { return *sprites_; }
+  SolverIndicator& solver() { return *solver_; }
   // The load step: title, start-up, menus and toolbar. FirstGame follows it.
   void Load();
   QAction* Action(const QString& key) const { return actions_.value(key); }
@@ -100,6 +102,7 @@ class MainWindow : public QMainWindow, public IWindow {
   QMenu* favMenu_ = nullptr;
   std::vector<QAction*> favEntries_;
   bool loaded_ = false;  // the load step has run: there is a session to stop
+  SolverIndicator* solver_ = nullptr;
 };
 
 }  // namespace qv

@@ -9,6 +9,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "SolverPage.h"
 #include "lists/Recent.h"
 #include "session/Program.h"
 
@@ -177,6 +178,7 @@ OptionsDialog::OptionsDialog(Program& app, QWidget* parent) : QDialog(parent), a
     recent->addSpacing(8);
   }
   recent->addStretch();
+  AddSolverPage(tabs, app_);
 
   auto* close = new QPushButton("Close");
   close->setObjectName("cmdClose");

@@ -12,6 +12,7 @@
 #include "AnimationDialog.h"
 #include "AutoSaveDialog.h"
 #include "BackgroundDialog.h"
+#include "BackToWinnable.h"
 #include "CardDeckDialog.h"
 #include "ChooseDialog.h"
 #include "FileCommands.h"
@@ -25,6 +26,7 @@
 #include "LogStatDialog.h"
 #include "CardPainter.h"
 #include "MainWindow.h"
+#include "NewWinnable.h"
 #include "OptionsDialog.h"
 #include "OrgFavDialog.h"
 #include "PendingDialog.h"
@@ -99,6 +101,8 @@ void OpenProgramWindow(MainWindow& main, const QString& key) {
   else if (key == "Deck") CardDeckDialog(main.app(), &main).exec();
   else if (key == "Options") OptionsDialog(main.app(), &main).exec();
   else if (key == "Open") OpenGame(main);
+  else if (key == "NewWinnable") NewWinnableGame(main);
+  else if (key == "BackToWinnable") BackToWinnable(main);
   else if (key == "Save") SaveGame(main);
   else if (key == "AutoSave") AutoSaveDialog(main.app(), &main).exec();
   else if (key == "OrgPend") PendingDialog(main.app(), &main).exec();

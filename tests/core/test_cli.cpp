@@ -60,7 +60,7 @@ Json Parse(const std::string& t, size_t* at = nullptr) {
   }
   v.text = t.substr(p, end - p);
   p = end;
-  static const std::regex scalar(R"(true|false|null|-?[0-9]+|".*")");
+  static const std::regex scalar(R"(true|false|null|-?[0-9]+(\.[0-9]+)?|".*")");
   if (!std::regex_match(v.text, scalar)) throw std::runtime_error("not a value: " + v.text);
   return v;
 }
@@ -383,6 +383,29 @@ TEST_F(Cli, BackgroundSchemesAndSoundsOnlyLookAndRunTellsTheSoundsPlayed) {
   EXPECT_EQ(Tool("deal Spider 2").status, 0);  // which picks a wallpaper, looking only
   EXPECT_TRUE(fs::is_empty(home.Path()));
   EXPECT_EQ(Run("new Spider 1\nsounds\nstock\nundo\nsounds\nsounds\n").out, "[\"Start\"]\n[\"Undo\"]\n[]\n");
+}
+
+TEST_F(Cli, SolveGivesAWinThatRunReplaysAndRefusesBadArguments) {
+  const Outcome r = Tool("solve 'Spider Single Suit' 3 3 --solution");
+  ASSERT_EQ(r.status, 0) << r.err;
+  const Json line = Parse(r.out);
+  ASSERT_EQ(line["verdict"].text, "\"winnable\"");
+  std::string script = "new \"Spider Single Suit\" 3\n";
+  for (const Json& l : line["script"].items) script += l.text.substr(1, l.text.size() - 2) + "\n";
+  EXPECT_EQ(Parse(Run(script + "show\n").out)["cards_left"].text, "0");
+  const Outcome range = Tool("solve Spider 7 9 --budget 1 --player --samples 2");
+  EXPECT_EQ(std::count(range.out.begin(), range.out.end(), '\n'), 3) << range.err;
+  for (const char* bad : {"solve Spider 1 2 --budget 0", "solve Spider 1 2 --budget -5", "solve Spider 1 2 --budget x",
+                          "solve Spider 1 2 --budget 86400001", "solve Spider 1 2 --memory 15", "solve Spider 3 2",
+                          "solve Spider 1 1234567890123456", "solve Spider 1 2 --samples 3", "solve Nothing 1 2"}) {
+    const Outcome o = Tool(bad);
+    EXPECT_EQ(o.status, 2) << bad;
+    EXPECT_TRUE(o.OneErrorLine()) << bad << o.err;
+  }
+  WriteFile(scratch.File("bad.vq0"), "not a saved game\r\n");
+  const Outcome bad = Tool("solve " + Quoted(scratch.File("bad.vq0")));
+  EXPECT_EQ(bad.status, 1);
+  EXPECT_TRUE(bad.OneErrorLine()) << bad.err;
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "engine/Table.h"
 
 #include "engine/DealGenerator.h"
+#include "engine/MoveRules.h"
 #include "engine/Numeric.h"
 #include "engine/cGames.h"
 
@@ -87,26 +88,7 @@ int Table::ClosedCards(int Pile) const {
 }
 
 bool Table::CheckNum(int pB, int pT, int iNum, int ColorSuit, bool AK) const {
-  const CardRec& b = cards_[pB];
-  const CardRec& t = cards_[pT];
-  const int B = b.Num, T = t.Num;
-  const bool down = T == B - 1 || (AK && B == 0 && T == 12);
-  const bool up = T == B + 1 || (AK && B == 12 && T == 0);
-  bool rank = false;
-  switch (iNum) {
-    case -1: rank = down; break;
-    case 1: rank = up; break;
-    case 0: rank = down || up; break;
-    default: return false;
-  }
-  if (!rank) return false;
-  switch (ColorSuit) {
-    case 1: return b.Suit == t.Suit;
-    case 2: return Color(pB) != Color(pT);
-    case 4: return b.Suit != t.Suit;
-    case 5: return Color(pB) == Color(pT);
-    default: return true;
-  }
+  return CardsRelate(cards_[pB], cards_[pT], iNum, ColorSuit, AK);
 }
 
 }  // namespace qv

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "engine/MoveRules.h"
 #include "engine/Numeric.h"
 #include "engine/Rules.h"
 #include "engine/mStudio.h"
@@ -12,7 +13,12 @@ namespace qv {
 
 namespace {
 constexpr int kGroupStep = 250;  // a carried card hangs this far below the one under it
-constexpr int kSetSize = 13;
+auto PileCards(const Table& t, int cell, int p) {
+  return [&t, cell, p](int q) -> const CardRec& { return t.Card(t.GetPicID(cell, p, q)); };
+}
+const CardRec* TopCard(const Table& t, int cell, int p) {
+  return t.GetTop(cell, p) < 0 ? nullptr : &t.Card(t.GetTopPicID(cell, p));
+}
 }  // namespace
 
 void cPlay::Init(const GameNo& no) {
@@ -84,13 +90,10 @@ CardPlace cPlay::GetCardPlace(int PicID) const {
 
 void cPlay::MoveCard(int mPicID, int DCell, int DPile, int DPos, int tMod, int Speed, int mCards, bool DFace) {
   const CardPlace src = GetCardPlace(mPicID);
-  if (tMod != 4 && src.Cell == 0 && src.Pos > 0) {
-    // The card under a moving card is turned up before the card leaves.
-    const int u = table_.GetPicID(0, src.Pile, src.Pos - 1);
-    if (!table_.Card(u).FaceMode) {
-      tMod = 3;
-      ChangeFaceMode(u, true);
-    }
+  // The card under a moving card is turned up before the card leaves.
+  if (tMod != 4 && TurnsUp(src.Cell, src.Pos, PileCards(table_, src.Cell, src.Pile))) {
+    tMod = 3;
+    ChangeFaceMode(table_.GetPicID(0, src.Pile, src.Pos - 1), true);
   }
   if (tMod != 4) app_.cEngine.SaveTrans(mPicID, DCell, DPile, DPos, mCards, tMod);
   AnimateCard(mPicID, DCell, DPile, DPos, Speed, DFace, true);
@@ -166,12 +169,12 @@ void cPlay::MouseDown(int PicID, int Cell, int Pile, int Pos) {
   auto& s = app_.surface.sprites;
   if (Cell == 0) {
     const int Top = table_.GetTop(0, Pile);
+    const int riding = PickUp(MoveRules::Of(app_.cGames), PileCards(table_, 0, Pile), Top, Pos);
     if (Pos == Top) {
       drag.Dragging = true;
     } else {
       drag.DragCount = static_cast<int16_t>(Top - Pos);
-      if (!table_.Card(PicID).FaceMode) return;
-      if (IsSequence(table_, app_.cGames, PicID, drag.DragCount) && app_.cGames.MultiMove()) {
+      if (riding > 0) {
         drag.Dragging = true;
         sel_.assign(drag.DragCount + 1, 0);
         for (int i = 1; i <= drag.DragCount; ++i) {
@@ -206,8 +209,7 @@ void cPlay::MouseUp(int PicID, int Cell, int Pile, int Pos) {
       for (int p = 0; p < app_.cGames.Piles(0); ++p) {
         const int t = table_.GetTop(0, p);
         if (!CardOverPlace(PicID, 0, p, t, overlap)) continue;
-        if (t >= 0 && Cell == 0 && p == Pile) continue;
-        if (!TableauAccepts(table_, app_.cGames, p, PicID)) continue;
+        if (!MayDrop(MoveRules::Of(app_.cGames), Cell, Pile, p, TopCard(table_, 0, p), table_.Card(PicID))) continue;
         MoveCard(PicID, 0, p, t + 1, 0, 1, app_.drag.DragCount, true);
         return;
       }
@@ -245,7 +247,7 @@ void cPlay::ReturnCards(int PicID, int /*Pile*/, int /*Pos*/) {
 // ---- the Stock and automatic moves ----
 
 void cPlay::DealRow() {
-  const int rowSize = std::min<int>(app_.cGames.Piles(0), table_.GetTop(1, 0) + 1);
+  const int rowSize = RowSize(MoveRules::Of(app_.cGames), table_.GetTop(1, 0) + 1);
   if (!app_.cEngine.HasRoomFor(rowSize)) return;
   app_.cEngine.StartMulti();
   for (int p = 0; p < app_.cGames.Piles(0); ++p) {
@@ -260,12 +262,11 @@ void cPlay::AutoMoveCheck() {
   for (int p = 0; p < app_.cGames.Piles(0); ++p) {
     if (!app_.cGamePlay.Game_Running()) return;
     if (!table_.Exists() || !HasSetOnTop(table_, app_.cGames, p)) continue;
-    if (!app_.cEngine.HasRoomFor(kSetSize)) return;
-    int f = table_.Card(table_.GetTopPicID(0, p)).Suitpile;
-    if (app_.cGames.GoalDiv() != 0) f %= app_.cGames.GoalDiv();
+    if (!app_.cEngine.HasRoomFor(kSetCards)) return;
+    const int f = SetFoundation(MoveRules::Of(app_.cGames), table_.Card(table_.GetTopPicID(0, p)));
     app_.cEngine.StartMulti();
     app_.cSound.AutoPlay();  // as the set starts to leave
-    for (int n = 0; n < kSetSize; ++n) {
+    for (int n = 0; n < kSetCards; ++n) {
       // The last card may finish the game, and the table may be gone when that returns.
       if (!app_.cGamePlay.Game_Running()) return;
       MoveCard(table_.GetTopPicID(0, p), 3, f, table_.GetTop(3, f) + 1, 0, 1, 0, true);
@@ -280,11 +281,10 @@ void cPlay::DoubleClick(int PicID) {
   if (c.Cell == 1 || c.Cell == 3) return;
   if (c.Pos != table_.GetTop(c.Cell, c.Pile)) return;
   if (!app_.cEngine.HasRoomFor(1)) return;
-  for (int f = 0; f < app_.cGames.Piles(3); ++f) {
-    if (!FoundationAccepts(table_, app_.cGames, f, PicID)) continue;
-    MoveCard(PicID, 3, f, table_.GetTop(3, f) + 1, 0, 1, 0, true);
-    return;
-  }
+  const int f = DoubleClickTarget(
+      MoveRules::Of(app_.cGames), [this](int f) { return TopCard(table_, 3, f); },
+      [this](int f) { return table_.GetTop(3, f); }, c);
+  if (f >= 0) MoveCard(PicID, 3, f, table_.GetTop(3, f) + 1, 0, 1, 0, true);
 }
 
 }  // namespace qv

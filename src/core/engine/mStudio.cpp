@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "engine/MoveRules.h"
 #include "engine/Numeric.h"
 #include "engine/Table.h"
 #include "engine/cCustom.h"
@@ -71,10 +72,7 @@ std::string GetSuitName(int code) { return NameOf(code, {"One", "Two", "Four"});
 std::string GetBoolName(int code) { return NameOf(code, {"False", "True"}); }
 
 bool CheckOrder(const Table& table, int pB, int pT, int orderCode, bool AK) {
-  constexpr int kColorSuit[] = {1, 2, 5, 4, 3};
-  if (orderCode == 5) return true;
-  const int colorSuit = orderCode >= 0 && orderCode < 5 ? kColorSuit[orderCode] : 3;
-  return table.CheckNum(pB, pT, -1, colorSuit, AK);
+  return InOrder(table.Card(pB), table.Card(pT), orderCode, AK);
 }
 
 }  // namespace qv

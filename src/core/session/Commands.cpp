@@ -6,6 +6,7 @@
 #include "session/CommandTable.h"
 #include "session/Program.h"
 #include "settings/SettingKeys.h"
+#include "solver/Hint.h"
 
 namespace qv {
 
@@ -65,6 +66,8 @@ void ExecCommand(Program& app, const std::string& key) {
   StopReplay(app);
   if (key == "Exit") return app.surface.window.CloseMain();
   if (key == "Stop" || key == "Recent") return;
+  // A hint changes nothing on the table and shows a message: no step is held for it.
+  if (key == "Hint") return ShowHint(app);
   {
     // Windows open outside the step: a stop while one is open need not wait for it.
     Motion::Step step(app.motion);
@@ -91,6 +94,8 @@ bool CommandEnabled(const Program& app, const std::string& key) {
   if (key == "Undo" || key == "UndoAll" || key == "Back") return U;
   if (key == "Redo" || key == "RedoAll" || key == "Forward") return D;
   if (key == "ReplayAll" || key == "MovesMan" || key == "History") return S;
+  if (key == "Hint") return R && Q;
+  if (key == "BackToWinnable") return U;
   return true;  // AutoPlay too: its -1 in the game definition means enabled
 }
 

@@ -59,6 +59,9 @@ inline constexpr IntSetting AddtoFav{"Finish", "AddtoFav", 0};
 inline constexpr IntSetting SaveFile{"Finish", "SaveFile", 0};
 inline constexpr IntSetting AutoSaveTab{"Tools", "AutoSaveTab", 0};
 inline constexpr TextSetting MainKey{"Select", "MainKey", "All"};
+inline constexpr IntSetting SolverIndicator{"Solver", "Indicator", 1};
+inline constexpr IntSetting SolverSeconds{"Solver", "Seconds", 10};
+inline constexpr IntSetting SolverMB{"Solver", "MB", 512};
 }  // namespace setting
 
 // Sections whose keys are names: players "1" to "20", a main group's sub-item, a hot game,
