@@ -26,15 +26,11 @@
 #include "session/Commands.h"
 #include "settings/MemorySettingsStore.h"
 
+#include "FindChild.h"
+
 using namespace qv;
 
 namespace {
-template <typename T>
-T* Get(QWidget& parent, const char* name) {
-  T* w = parent.findChild<T*>(name);
-  if (!w) qFatal("no %s", name);
-  return w;
-}
 void Click(QWidget& dlg, const char* button) { Get<QPushButton>(dlg, button)->click(); }
 QString Text(QWidget& dlg, const char* label) { return Get<QLabel>(dlg, label)->text(); }
 std::string GamFile(test::TestProgram& t, const std::string& name) {

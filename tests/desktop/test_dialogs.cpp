@@ -27,15 +27,11 @@
 #include "session/CommandTable.h"
 #include "session/Commands.h"
 
+#include "FindChild.h"
+
 using namespace qv;
 
 namespace {
-template <typename T>
-T* Get(QWidget& parent, const char* name) {
-  T* w = parent.findChild<T*>(name);
-  if (!w) qFatal("no %s", name);
-  return w;
-}
 bool Stored(const test::TestProgram& t, const IntSetting& s) { return t.settings.ReadInt(s.section, s.key).has_value(); }
 QAction* ToolbarItem(MainWindow& main, const QString& key) {
   for (QAction* a : main.Toolbar()->actions())

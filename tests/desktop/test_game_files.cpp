@@ -30,16 +30,12 @@
 #include "session/SavedGameFile.h"
 #include "settings/Settings.h"
 
+#include "FindChild.h"
+
 using namespace qv;
 namespace fs = std::filesystem;
 
 namespace {
-template <typename T>
-T* Get(QWidget& parent, const char* name) {
-  T* w = parent.findChild<T*>(name);
-  if (!w) qFatal("no %s", name);
-  return w;
-}
 void Click(QTreeWidget* tree, int row) {
   QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualItemRect(tree->topLevelItem(row)).center());
 }

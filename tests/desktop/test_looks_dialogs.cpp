@@ -26,15 +26,11 @@
 #include "settings/BackgroundSettings.h"
 #include "settings/ColorScheme.h"
 
+#include "FindChild.h"
+
 using namespace qv;
 
 namespace {
-template <typename T>
-T* Get(QWidget& parent, const char* name) {
-  T* w = parent.findChild<T*>(name);
-  if (!w) qFatal("no %s", name);
-  return w;
-}
 // Answers the input boxes from a queue, and counts the questions.
 struct Inputs {
   std::deque<QString> next;

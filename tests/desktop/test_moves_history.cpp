@@ -21,6 +21,8 @@
 #include "settings/SettingKeys.h"
 #include "settings/Settings.h"
 
+#include "FindChild.h"
+
 using namespace qv;
 
 namespace {
@@ -32,12 +34,6 @@ struct PaintCounter : QObject {
     return false;
   }
 };
-template <typename T>
-T* Get(QWidget& parent, const char* name) {
-  T* w = parent.findChild<T*>(name);
-  if (!w) qFatal("no %s", name);
-  return w;
-}
 QString Text(QWidget& dlg, const char* label) { return Get<QLabel>(dlg, label)->text(); }
 QVariant Look(QTreeView* list, int row, int role) { return list->model()->index(row, 2).data(role); }
 bool Bold(QTreeView* list, int row) { return Look(list, row, Qt::FontRole).value<QFont>().bold(); }

@@ -34,16 +34,12 @@
 #include "scores/Players.h"
 #include "settings/SettingKeys.h"
 
+#include "FindChild.h"
+
 using namespace qv;
 
 namespace {
 
-template <typename T>
-T* Get(QWidget& parent, const char* name) {
-  T* w = parent.findChild<T*>(name);
-  if (!w) qFatal("no %s", name);
-  return w;
-}
 
 QStringList Column(QTreeWidget* list, int c) {
   QStringList out;

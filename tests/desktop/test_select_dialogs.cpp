@@ -28,15 +28,11 @@
 #include "settings/MemorySettingsStore.h"
 #include "settings/SettingKeys.h"
 
+#include "FindChild.h"
+
 using namespace qv;
 
 namespace {
-template <typename T>
-T* Get(QWidget& parent, const char* name) {
-  T* w = parent.findChild<T*>(name);
-  if (!w) qFatal("no %s", name);
-  return w;
-}
 void Shoot(QWidget& w, const char* name) {
   const QByteArray folder = qgetenv("QUORVALE_SCREENSHOTS");
   if (!folder.isEmpty()) w.grab().save(QString(folder) + "/" + name + ".png");
