@@ -19,12 +19,7 @@ namespace qv {
 
 namespace {
 QTreeWidget* GameList(const char* name, const QStringList& columns) {
-  auto* list = new QTreeWidget;
-  list->setObjectName(name);
-  list->setHeaderLabels(columns);
-  list->setRootIsDecorated(false);
-  list->setUniformRowHeights(true);
-  list->setAllColumnsShowFocus(true);
+  auto* list = NewRowList(name, columns);
   list->setSelectionMode(QAbstractItemView::SingleSelection);
   list->header()->setStretchLastSection(false);
   list->header()->setSectionResizeMode(0, QHeaderView::Stretch);

@@ -1,14 +1,10 @@
 #include "BackToWinnable.h"
 
-#include <QEventLoop>
-#include <QFutureWatcher>
-#include <QProgressDialog>
 #include <QScopedValueRollback>
-#include <QTimer>
-#include <QtConcurrent/QtConcurrent>
 #include <atomic>
 
 #include "MainWindow.h"
+#include "SolverProgress.h"
 #include "session/Program.h"
 #include "solver/WinnableBack.h"
 
@@ -24,33 +20,17 @@ void BackToWinnable(MainWindow& main) {
   const uint64_t before = PositionKey(app);
   std::stop_source stop;
   std::atomic<int> asked{0};
-  QFutureWatcher<int> watcher;
-  QEventLoop wait;
-  QObject::connect(&watcher, &QFutureWatcher<int>::finished, &wait, &QEventLoop::quit);
-  watcher.setFuture(QtConcurrent::run([&, budget = SolverBudgetOf(app)] {
-    return LastWinnable(
-        at,
-        [&](const TableCopy& c) {
-          ++asked;
-          return SolveCopy(c, budget, stop.get_token()).verdict;
-        },
-        stop.get_token());
-  }));
-  QProgressDialog progress("Looking for the last position from which the game can be won...", "Cancel", 0, 0, &main);
-  progress.setObjectName("frmBackToWinnable");
-  progress.setWindowTitle(QString::fromStdString(app.cData.ProdName()));
-  progress.setWindowModality(Qt::WindowModal);
-  progress.setMinimumDuration(1000);
-  progress.setAutoReset(false);
-  QObject::connect(&progress, &QProgressDialog::canceled, [&] { stop.request_stop(); });
-  QTimer tick;
-  QObject::connect(&tick, &QTimer::timeout, [&] { progress.setValue(asked); });
-  tick.start(100);
-  if (!watcher.isFinished()) wait.exec();
-  tick.stop();
-  progress.disconnect();  // closing the box would count as Cancel
-  progress.close();
-  const int found = watcher.result();
+  const int found = RunWithProgress(
+      main, "Looking for the last position from which the game can be won...", "frmBackToWinnable", 0, stop, asked,
+      [&, budget = SolverBudgetOf(app)] {
+        return LastWinnable(
+            at,
+            [&](const TableCopy& c) {
+              ++asked;
+              return SolveCopy(c, budget, stop.get_token()).verdict;
+            },
+            stop.get_token());
+      });
   if (stop.stop_requested()) return;
   if (found < 0) {
     app.MsgBox("No earlier position of this game was proved winnable in the time allowed for each.",

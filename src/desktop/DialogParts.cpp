@@ -1,5 +1,7 @@
 #include "DialogParts.h"
 
+#include <QDialog>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
 #include <QScreen>
@@ -28,6 +30,26 @@ void FitColumns(QTreeWidget* list) {
   // name too, within the screen.
   width += 2 * list->frameWidth() + list->verticalScrollBar()->sizeHint().width();
   list->setMinimumWidth(std::min(width, list->screen()->availableGeometry().width() * 4 / 5));
+}
+
+QTreeWidget* NewRowList(const char* name, const QStringList& columns) {
+  auto* list = new QTreeWidget;
+  list->setObjectName(name);
+  list->setHeaderLabels(columns);
+  list->setRootIsDecorated(false);
+  list->setUniformRowHeights(true);
+  list->setAllColumnsShowFocus(true);
+  return list;
+}
+
+QHBoxLayout* CloseRow(QDialog* dialog) {
+  auto* close = NamedButton("cmdClose", "Close");
+  close->setDefault(true);
+  QObject::connect(close, &QPushButton::clicked, dialog, &QDialog::accept);
+  auto* row = new QHBoxLayout;
+  row->addStretch();
+  row->addWidget(close);
+  return row;
 }
 
 }  // namespace qv

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QStringList>
+
+class QDialog;
+class QHBoxLayout;
 class QPushButton;
 class QTreeWidget;
 
@@ -12,5 +16,10 @@ QPushButton* NamedButton(const char* name, const char* text);
 // Each column as wide as its widest text and a gap, so texts are never cut and never touch;
 // the first column stretches over what is left.
 void FitColumns(QTreeWidget* list);
+// A list of rows under column headings, the program's way: no tree lines, rows of one
+// height, the whole row marked.
+QTreeWidget* NewRowList(const char* name, const QStringList& columns);
+// The row at the foot of a dialog: its default "Close" button, on the right, accepting it.
+QHBoxLayout* CloseRow(QDialog* dialog);
 
 }  // namespace qv

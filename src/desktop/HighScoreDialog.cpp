@@ -51,12 +51,7 @@ HighScoreDialog::HighScoreDialog(Program& app, QWidget* parent)
   tabs->addTab(Page(gameBox_, "Game :", games_), "Game-wise");
   tabs->addTab(Page(playerBox_, "Player :", player_), "Player-wise");
   tabs->addTab(Page(finBox_, "Sorted by :", fin_), "Finished Games");
-  auto* close = NamedButton("cmdClose", "Close");
-  close->setDefault(true);
-  connect(close, &QPushButton::clicked, this, &QDialog::accept);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(close);
+  auto* buttons = CloseRow(this);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(tabs);
   layout->addLayout(buttons);

@@ -73,12 +73,7 @@ LogStatDialog::LogStatDialog(Program& app, QWidget* parent)
   selectors->addWidget(gameBox_);
   selectors->addWidget(dateBox_);
   selectors->addStretch();
-  auto* close = NamedButton("cmdClose", "Close");
-  close->setDefault(true);
-  connect(close, &QPushButton::clicked, this, &QDialog::accept);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(close);
+  auto* buttons = CloseRow(this);
   auto* layout = new QVBoxLayout(this);
   layout->addLayout(selectors);
   layout->addWidget(view_);

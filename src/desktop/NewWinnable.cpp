@@ -1,15 +1,11 @@
 #include "NewWinnable.h"
 
 #include <QElapsedTimer>
-#include <QEventLoop>
-#include <QFutureWatcher>
 #include <QScopedValueRollback>
-#include <QProgressDialog>
-#include <QTimer>
-#include <QtConcurrent/QtConcurrent>
 #include <atomic>
 
 #include "MainWindow.h"
+#include "SolverProgress.h"
 #include "engine/cGames.h"
 #include "session/Program.h"
 #include "solver/TableVerdict.h"
@@ -29,29 +25,11 @@ void NewWinnableGame(MainWindow& main) {
   const std::vector<GameNo> numbers = DrawDistinctDeals(app, kWinnableTries);
   std::stop_source stop;
   std::atomic<int> tried{0};
-  QFutureWatcher<int> watcher;
-  QEventLoop wait;
-  QObject::connect(&watcher, &QFutureWatcher<int>::finished, &wait, &QEventLoop::quit);
-  watcher.setFuture(QtConcurrent::run([&, budget = SolverBudgetOf(app)] {
-    return FirstWinnable(games, numbers, budget, stop.get_token(), [&](int i) { tried = i; });
-  }));
-  QProgressDialog progress(QString("Looking for a winnable game of %1...").arg(QString::fromStdString(game)),
-                           "Cancel", 0, static_cast<int>(numbers.size()), &main);
-  progress.setObjectName("frmNewWinnable");
-  progress.setWindowTitle(QString::fromStdString(app.cData.ProdName()));
-  progress.setWindowModality(Qt::WindowModal);
-  progress.setMinimumDuration(1000);
-  progress.setAutoReset(false);
-  QObject::connect(&progress, &QProgressDialog::canceled, [&] { stop.request_stop(); });
-  QTimer tick;
-  QObject::connect(&tick, &QTimer::timeout, [&] { progress.setValue(tried); });
-  tick.start(100);
-  // The window goes on painting; the table stays as it is until a number is found.
-  if (!watcher.isFinished()) wait.exec();
-  tick.stop();
-  progress.disconnect();  // closing the box would count as Cancel
-  progress.close();
-  const int found = watcher.result();
+  const int found = RunWithProgress(
+      main, QString("Looking for a winnable game of %1...").arg(QString::fromStdString(game)), "frmNewWinnable",
+      static_cast<int>(numbers.size()), stop, tried, [&, budget = SolverBudgetOf(app)] {
+        return FirstWinnable(games, numbers, budget, stop.get_token(), [&](int i) { tried = i; });
+      });
   if (found < 0 && stop.stop_requested()) return;
   if (found < 0) {
     app.MsgBox("No winnable game was found among " + std::to_string(numbers.size()) +

@@ -1,5 +1,7 @@
 #include "OptionsDialog.h"
 
+#include "DialogParts.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHBoxLayout>
@@ -180,13 +182,7 @@ OptionsDialog::OptionsDialog(Program& app, QWidget* parent) : QDialog(parent), a
   recent->addStretch();
   AddSolverPage(tabs, app_);
 
-  auto* close = new QPushButton("Close");
-  close->setObjectName("cmdClose");
-  close->setDefault(true);
-  connect(close, &QPushButton::clicked, this, &QDialog::accept);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(close);
+  auto* buttons = CloseRow(this);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(tabs);
   layout->addLayout(buttons);

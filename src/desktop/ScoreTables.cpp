@@ -6,6 +6,7 @@
 
 #include "scores/Players.h"
 #include "scores/ScoreText.h"
+#include "DialogParts.h"
 #include "session/Program.h"
 
 namespace qv {
@@ -23,12 +24,7 @@ QString ScoreCell(const ScoreRec& r, const QString& c, int slot) {
 }
 
 QTreeWidget* NewScoreList(const char* name, const QStringList& columns) {
-  auto* list = new QTreeWidget;
-  list->setObjectName(name);
-  list->setHeaderLabels(columns);
-  list->setRootIsDecorated(false);
-  list->setUniformRowHeights(true);
-  list->setAllColumnsShowFocus(true);
+  auto* list = NewRowList(name, columns);
   list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
   list->setStyleSheet("QTreeView::item { padding-right: 14px; }");  // columns never touch
   list->header()->setStretchLastSection(true);

@@ -102,13 +102,8 @@ SessionStatDialog::SessionStatDialog(Program& app, QWidget* parent)
   tabs->setObjectName("SSTab1");
   tabs->addTab(summaryPage, "Summary");
   tabs->addTab(detailsPage, "Session Details");
-  auto* close = NamedButton("cmdClose", "Close");
-  close->setDefault(true);
-  connect(close, &QPushButton::clicked, this, &QDialog::accept);
   connect(refresh, &QPushButton::clicked, this, &SessionStatDialog::Refresh);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(close);
+  auto* buttons = CloseRow(this);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(tabs);
   layout->addLayout(buttons);
