@@ -60,12 +60,8 @@ TEST_F(Backgrounds, AccessorsMendWhatNoLongerFitsWithoutWritingItBack) {
   EXPECT_EQ(ColorIndex(*t), 7);
   EXPECT_EQ(t->cImages.ColorName(7), "Felt Green");
   for (int bad : {0, -3, t->cImages.ColorCount() + 1}) {
-    Set(setting::TextureIndex, bad);
-    Set(setting::ColorIndex, bad);
-    Set(setting::ImageIndex, bad);
-    EXPECT_EQ(TextureIndex(*t), 1);
-    EXPECT_EQ(ColorIndex(*t), 1);
-    EXPECT_EQ(ImageIndex(*t), 1);
+    for (const IntSetting* s : {&setting::TextureIndex, &setting::ColorIndex, &setting::ImageIndex}) Set(*s, bad);
+    EXPECT_EQ(std::tuple(TextureIndex(*t), ColorIndex(*t), ImageIndex(*t)), std::tuple(1, 1, 1)) << bad;
     EXPECT_EQ(t->cRegistry.Get(setting::ColorIndex), bad);
   }
   Set(setting::ImageIndex, t->cImages.ImageCount());
@@ -77,14 +73,13 @@ TEST_F(Backgrounds, AccessorsMendWhatNoLongerFitsWithoutWritingItBack) {
   Set(setting::CustImageFile, pic);
   Set(setting::ImageFolderFile, pic);
   Set(setting::SchemeFile, t.home.File("gone"));
-  EXPECT_EQ(CustImageFile(*t), t->cData.DefaultCustImageFile());
-  EXPECT_EQ(ImageFolderFile(*t), pic);
-  EXPECT_EQ(SchemeFile(*t), t->cData.DefaultSchemeFile());
+  EXPECT_EQ(std::tuple(CustImageFile(*t), ImageFolderFile(*t), SchemeFile(*t)),
+            std::tuple(t->cData.DefaultCustImageFile(), pic, t->cData.DefaultSchemeFile()));
   t->cFunc.AddtoLIST(0, t.home.File("photo.jpg"));  // the list ignores case here
   EXPECT_EQ(CustImageFile(*t), pic);
   fs::remove(pic);
-  EXPECT_EQ(CustImageFile(*t), t->cData.DefaultCustImageFile());
-  EXPECT_EQ(ImageFolderFile(*t), t->cData.DefaultCustImageFile());
+  EXPECT_EQ(std::tuple(CustImageFile(*t), ImageFolderFile(*t)),
+            std::tuple(t->cData.DefaultCustImageFile(), t->cData.DefaultCustImageFile()));
   EXPECT_EQ(t->cRegistry.Get(setting::ImageFolderFile), pic);
 }
 

@@ -7,7 +7,6 @@
 #include "lists/AutoSave.h"
 #include "session/CommandTable.h"
 #include "session/Commands.h"
-#include "lists/AutoSave.h"
 #include "session/FirstGame.h"
 #include "session/SavedGameFile.h"
 #include "session/StartUp.h"
@@ -29,8 +28,7 @@ TEST_F(Commands, EnablingFollowsTheGamesState) {
 
   t.Deal("Spider", 8);
   for (const char* key : {"Restart", "Save", "Pause", "Close", "AddFav", "AddPend"}) EXPECT_TRUE(On(key)) << key;
-  EXPECT_FALSE(On("Undo"));
-  EXPECT_FALSE(On("ReplayAll"));
+  for (const char* key : {"Undo", "ReplayAll"}) EXPECT_FALSE(On(key)) << key;
   test::DealRows(t, 1);
   for (const char* key : {"Undo", "UndoAll", "Back", "ReplayAll", "MovesMan", "History"}) EXPECT_TRUE(On(key)) << key;
   EXPECT_FALSE(On("Redo"));
@@ -50,10 +48,8 @@ TEST_F(Commands, EnablingFollowsTheGamesState) {
   t->cEngine.RedoAll(speed);
   ASSERT_TRUE(t->cEngine.SavetoFile(t.home.File("done.vq1")));
   t->cGamePlay.PlayFile(t.home.File("done.vq1"), false);
-  EXPECT_TRUE(On("Close"));
-  EXPECT_TRUE(On("AddFav"));
-  EXPECT_FALSE(On("Restart"));
-  EXPECT_FALSE(On("Save"));
+  for (const char* key : {"Close", "AddFav"}) EXPECT_TRUE(On(key)) << key;
+  for (const char* key : {"Restart", "Save"}) EXPECT_FALSE(On(key)) << key;
 }
 
 TEST_F(Commands, EveryCommandStopsAReplayFirst) {
@@ -114,24 +110,20 @@ TEST_F(Commands, TurningAutoPlayOnSendsCompletedSetsAtOnce) {
   EXPECT_FALSE(AutoPlayChecked(*t.app));
 }
 
+// The defaults of Undo and Undo All, and a separator following AddFav, are also seen in the window's tests.
 TEST_F(Commands, ToolbarDefaultsAndSeparators) {
   auto& reg = t->cRegistry;
-  auto item = [](const char* key) -> const ToolbarButtonDef& {
+  const auto shown = [&](std::string_view key) {
     for (const auto& b : ToolbarLayout())
-      if (std::string_view(b.key) == key) return b;
-    throw std::runtime_error(key);
+      if (b.key == key) return ToolbarItemShown(reg, b);
+    throw std::runtime_error(std::string(key));
   };
-  EXPECT_TRUE(ToolbarItemShown(reg, item("Undo")));
-  EXPECT_FALSE(ToolbarItemShown(reg, item("UndoAll")));
-  EXPECT_TRUE(ToolbarItemShown(reg, item("Editor")));
-  EXPECT_TRUE(ToolbarItemShown(reg, item("Sep8")));  // AddFav shows by default
+  EXPECT_TRUE(shown("Editor"));
+  EXPECT_TRUE(shown("Sep8"));  // AddFav shows by default
   SetButtonShown(reg, "AddFav", false);
-  EXPECT_FALSE(ToolbarItemShown(reg, item("Sep8")));
-  SetButtonShown(reg, "OrgFav", true);
-  EXPECT_TRUE(ToolbarItemShown(reg, item("Sep8")));
-  int ids = 0;
-  for (int id = 1; id <= kToolbarButtons; ++id) ids += ToolbarButton(id).id == id;
-  EXPECT_EQ(ids, kToolbarButtons);
+  EXPECT_FALSE(shown("Sep8"));
+  SetButtonShown(reg, "OrgFav", true);  // the other button of its group brings it back
+  EXPECT_TRUE(shown("Sep8"));
   EXPECT_STREQ(ToolbarButton(4).tooltip, "Open a Saved Game");
   EXPECT_STREQ(ToolbarButton(11).caption, "PauseGame");
 }
@@ -160,11 +152,13 @@ struct FirstGames : ::testing::Test {
     ASSERT_TRUE(before->cEngine.SavetoFile(t->cData.UnFinFile()));
     before.Deal("Plaza", 13);
     ASSERT_TRUE(before->cEngine.SavetoFile(t.home.File("given.vq0")));
+    t.settings.WriteInt("General", "UnFin", 1);  // the game above waits for this run
   }
   test::TestProgram t;
 };
 
 TEST_F(FirstGames, NothingWaitingOpensTheSelection) {
+  t.settings.WriteInt("General", "UnFin", 0);
   FirstGame(*t.app, "");
   EXPECT_EQ(t.window.opened, std::vector<std::string>{"Select"});
   EXPECT_EQ(t->cGamePlay.Game_Status(), 0);  // its Cancel leaves the table empty
@@ -173,7 +167,6 @@ TEST_F(FirstGames, NothingWaitingOpensTheSelection) {
 }
 
 TEST_F(FirstGames, TheUnfinishedGameComesBackAndStaysMarked) {
-  t.settings.WriteInt("General", "UnFin", 1);
   FirstGame(*t.app, "");
   EXPECT_EQ(t->cGamePlay.GameName(), "Coral");
   EXPECT_EQ(t->cEngine.GetTransID(), 10);
@@ -181,7 +174,6 @@ TEST_F(FirstGames, TheUnfinishedGameComesBackAndStaysMarked) {
 }
 
 TEST_F(FirstGames, AnUnfinishedGameThatDoesNotReadIsGivenUpOnce) {
-  t.settings.WriteInt("General", "UnFin", 1);
   test::WriteFile(t->cData.UnFinFile(), "Coral\r\n 12 \r\n");
   FirstGame(*t.app, "");
   EXPECT_EQ(t.dialogs.shown.size(), 1u);
@@ -191,7 +183,6 @@ TEST_F(FirstGames, AnUnfinishedGameThatDoesNotReadIsGivenUpOnce) {
 }
 
 TEST_F(FirstGames, AFileAndAnUnfinishedGameAskWhichToPlay) {
-  t.settings.WriteInt("General", "UnFin", 1);
   t.dialogs.answers = {Answer::Yes};
   FirstGame(*t.app, t.home.File("given.vq0"));
   EXPECT_EQ(t->cGamePlay.GameName(), "Plaza");
@@ -208,7 +199,6 @@ TEST_F(FirstGames, AFileAndAnUnfinishedGameAskWhichToPlay) {
 }
 
 TEST_F(FirstGames, AStopAtTheQuestionOrDuringTheChosenDealLosesNeitherGame) {
-  t.settings.WriteInt("General", "UnFin", 1);
   t.dialogs.onShow = [&] { StopProgram(*t.app, nullptr); };  // a logout while it asks
   FirstGame(*t.app, t.home.File("given.vq0"));
   EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 1);
@@ -231,7 +221,6 @@ TEST_F(FirstGames, AStopAtTheQuestionOrDuringTheChosenDealLosesNeitherGame) {
 }
 
 TEST_F(FirstGames, YesToABadFileKeepsTheUnfinishedGame) {
-  t.settings.WriteInt("General", "UnFin", 1);
   t.dialogs.answers = {Answer::Yes};
   FirstGame(*t.app, t.home.File("missing.vq0"));
   EXPECT_EQ(t->cGamePlay.GameName(), "Coral");
@@ -279,6 +268,10 @@ TEST(SettingsAccess, ARefusedWriteIsToldOnceAndTheGameGoesOn) {
   EXPECT_EQ(t.dialogs.shown.size(), 1u);
   EXPECT_EQ(t->cGamePlay.GameName(), "Coral");
   EXPECT_TRUE(t->cGamePlay.Game_Running());
+  test::DealRows(t, 1);
+  EXPECT_EQ(t->cEngine.GetTransID(), 10);
+  t->cGamePlay.Unload();  // the unfinished game is not marked as kept
+  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
 }
 
 }  // namespace

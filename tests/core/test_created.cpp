@@ -38,10 +38,9 @@ TEST(CreatedGameFile, SavedAsTwoRecordsAndListedFromIdEight) {
   Create(t, "New Game 01", 10, 2);
   EXPECT_EQ(ReadFile((Games(t) / "New Game 01.gam").string()), "\"New Game 01\"\r\n10,4,13,0,1,2,0\r\n");
   EXPECT_EQ(t.dialogs.shown, std::vector<std::string>{"Successfully Saved Game : New Game 01"});
-  EXPECT_EQ(t->cData.GetGameID("New Game 01"), 8);
-  EXPECT_TRUE(t->cData.IsOriginal("New Game 01"));
-  EXPECT_EQ(t->cData.GetDeck("New Game 01"), "Two (104 Cards)");
-  EXPECT_EQ(t.window.menuRefreshes, 1);
+  EXPECT_EQ(std::tuple(t->cData.GetGameID("New Game 01"), t->cData.IsOriginal("New Game 01"),
+                       t->cData.GetDeck("New Game 01"), t.window.menuRefreshes),
+            std::tuple(8, true, "Two (104 Cards)", 1));
 
   // The name comes from inside the file, whatever the file is called.
   WriteGam(t, "renamed.gam", "\"Inner\"\r\n7,5,0,1,1,0,0\r\n");
@@ -121,10 +120,10 @@ TEST(CreatedGamePlay, ADeckOfOneSuitOnSixCentredPilesFromItsFile) {
   Create(t, "Six Easy", 6, 0, 12);
   t->cCustom.Init("Spider");  // browsing elsewhere does not matter
   t.Deal("Six Easy", 7);
-  EXPECT_EQ(t->cGames.Piles(0), 6);
-  EXPECT_EQ(t->cGames.GetCordX(0, 0, 0) - t->cGames.GetCordX(1, 0, 0), 2330 - 532);  // centred, Stock in place
-  EXPECT_EQ(t->cGames.EmptyNum(), 12);
-  EXPECT_EQ(t->cGames.SuitType(), 0);
+  // Six piles centred with the Stock in place, Kings only in a space, one suit.
+  EXPECT_EQ(std::tuple(t->cGames.Piles(0), t->cGames.GetCordX(0, 0, 0) - t->cGames.GetCordX(1, 0, 0),
+                       t->cGames.EmptyNum(), t->cGames.SuitType()),
+            std::tuple(6, 2330 - 532, 12, 0));
   for (int pic = 0; pic < 104; ++pic) EXPECT_EQ(t->cPlay.Suit(pic), t->cPlay.Suit(0));
   int dealt = 0;
   for (int pile = 0; pile < 6; ++pile) dealt += t->cPlay.GetTop(0, pile) + 1;
@@ -150,15 +149,12 @@ TEST(CreatedGamePlay, ADeletedGameKeepsItsFieldsOnTheTableAndInItsFile) {
   EXPECT_EQ(t->cGames.Piles(0), 7);
   t->cCustom.Init("Scarab");
   ExecCommand(*t.app, "Rules");
-  EXPECT_EQ(t.window.opened.back(), "Rules");
-  EXPECT_FALSE(t.window.openedModal.back());
-  EXPECT_EQ(t->cCustom.HPiles, 7);
+  EXPECT_EQ(std::tuple(t.window.opened.back(), t.window.openedModal.back(), t->cCustom.HPiles), std::tuple("Rules", false, 7));
   ExecCommand(*t.app, "Close");
   ASSERT_TRUE(t->cGamePlay.PlayFile(saved, false));
   EXPECT_EQ(t->cGames.Piles(0), 7);
   ExecCommand(*t.app, "Restart");
-  EXPECT_EQ(t->cGames.Piles(0), 7);
-  EXPECT_EQ(t->cGamePlay.Game_Status(), 1);
+  EXPECT_EQ(std::tuple(t->cGames.Piles(0), t->cGamePlay.Game_Status()), std::tuple(7, 1));
   // With no game running F1 opens the help; New after the last game is gone deals Spider.
   ExecCommand(*t.app, "Close");
   ExecCommand(*t.app, "Rules");

@@ -38,8 +38,7 @@ TEST_F(Favorites, RecordsKeepTheNumberFormAndReadBack) {
   EXPECT_EQ(test::ReadFile(At("typed")), "\"Spider Two Suit\",\"0042\",\"Player1\",#11/18/2026 11:06:40 AM#\r\n");
   const auto typed = ReadFavFile(At("typed"));
   ASSERT_TRUE(typed);
-  EXPECT_TRUE(typed->GameNo.IsTyped());
-  EXPECT_EQ(typed->GameNo.Text(), "0042");
+  EXPECT_EQ(typed->GameNo, GameNo::Typed("0042"));
   test::WriteFile(At("comma"), "\"A, B\",-7,\"Me, too\",#x#");
   const auto comma = ReadFavFile(At("comma"));
   ASSERT_TRUE(comma);
@@ -51,16 +50,12 @@ TEST_F(Favorites, JunkIsSkippedAndKeptAndNamesGoByNameIgnoringCase) {
   const std::string good = "\"Spider\",5,\"P\",#d#\r\n";
   fs::create_directories(At("beta/deeper"));
   fs::create_directories(At("Alpha"));
-  test::WriteFile(At("beta/z game"), good);
-  test::WriteFile(At("beta/A game"), good);
-  test::WriteFile(At("beta/deeper/lost"), good);  // two levels only
-  test::WriteFile(At("Alpha/.directory"), "[Desktop Entry]\n");
-  test::WriteFile(At("b root"), good);
-  test::WriteFile(At("A root"), good);
-  test::WriteFile(At("cut"), "\"Spider\",5,\"P");
-  test::WriteFile(At("empty"), "");
-  test::WriteFile(At("no game"), "\"Nowhere\",5,\"P\",#d#");
-  test::WriteFile(At("text number"), "\"Spider\",five,\"P\",#d#");
+  // "lost" lies two levels down, too deep; the last four do not read.
+  for (const auto& [name, text] : {std::pair<const char*, std::string>{"beta/z game", good}, {"beta/A game", good},
+                                   {"beta/deeper/lost", good}, {"Alpha/.directory", "[Desktop Entry]\n"},
+                                   {"b root", good}, {"A root", good}, {"cut", "\"Spider\",5,\"P"}, {"empty", ""},
+                                   {"no game", "\"Nowhere\",5,\"P\",#d#"}, {"text number", "\"Spider\",five,\"P\",#d#"}})
+    test::WriteFile(At(name), text);
   EXPECT_EQ(Shown(), (std::vector<std::string>{"Alpha/", "beta/", "beta/A game", "beta/z game", "A root", "b root"}));
   EXPECT_TRUE(fs::exists(At("cut")) && fs::exists(At("no game")) && fs::exists(At("Alpha/.directory")));
   EXPECT_EQ(GetFavFolders(*t.app).size(), 2u);
@@ -76,10 +71,8 @@ TEST_F(Favorites, NamesAreCheckedBeforeAnythingChanges) {
   test::WriteFile(At("Game"), "");
   EXPECT_FALSE(ValidateFavName(*t.app, "", kFavGame, root));
   EXPECT_TRUE(t.dialogs.shown.empty());  // a cancelled input box says nothing
-  EXPECT_FALSE(ValidateFavName(*t.app, "a|b", kFavGame, root));
-  EXPECT_FALSE(ValidateFavName(*t.app, "Folder", kFavFolder, root));
-  EXPECT_FALSE(ValidateFavName(*t.app, "Game", kFavGame, root));
-  EXPECT_FALSE(ValidateFavName(*t.app, "..", kFavFolder, root));
+  for (const auto& [name, kind] : {std::pair{"a|b", kFavGame}, {"Folder", kFavFolder}, {"Game", kFavGame}, {"..", kFavFolder}})
+    EXPECT_FALSE(ValidateFavName(*t.app, name, kind, root)) << name;
   EXPECT_EQ(t.dialogs.shown, (std::vector<std::string>{"Name should not contain these characters : /\\:*?\"<>|",
                                                        "Folder already exists", "Game already exists",
                                                        "Name should not contain these characters : /\\:*?\"<>|"}));
@@ -116,14 +109,12 @@ TEST_F(Favorites, PlayingStartsTheDealAndABadOneLeavesTheTableAlone) {
   test::WriteFile(At("fav"), "\"Spider Two Suit\",\"0042\",\"P\",#d#\r\n");
   test::WriteFile(At("bad"), "\"Spider Two Suit\",\"0042\"");
   ASSERT_TRUE(t->cGamePlay.PlayFavFile(At("fav")));
-  EXPECT_EQ(t->cGamePlay.GameName(), "Spider Two Suit");
-  EXPECT_EQ(t->cGamePlay.GameNo(), GameNo::Typed("0042"));
-  EXPECT_EQ(t->cFunc.GetMRU(kRecentPlayed)[1], "Spider Two Suit - 0042");
+  EXPECT_EQ(std::tuple(t->cGamePlay.GameName(), t->cGamePlay.GameNo(), t->cFunc.GetMRU(kRecentPlayed)[1]),
+            std::tuple("Spider Two Suit", GameNo::Typed("0042"), "Spider Two Suit - 0042"));
   const auto before = test::Snapshot(*t.app);
   EXPECT_FALSE(t->cGamePlay.PlayFavFile(At("bad")));
-  EXPECT_EQ(t.dialogs.shown.size(), 1u);
-  EXPECT_EQ(test::Snapshot(*t.app), before);
-  EXPECT_EQ(t->cGamePlay.Game_Status(), 1);
+  EXPECT_EQ(std::tuple(t.dialogs.shown.size(), test::Snapshot(*t.app), t->cGamePlay.Game_Status()),
+            std::tuple(1u, before, 1));
 }
 
 }  // namespace

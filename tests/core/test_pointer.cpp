@@ -23,8 +23,7 @@ TEST_F(Pointer, PressesThatMoveNothing) {
   const double left = Sprite(card).left, top = Sprite(card).top;
   long moves = t.sprites.Moves();
   ClickCard(*t.app, card);
-  EXPECT_EQ(Sprite(card).left, left);
-  EXPECT_EQ(Sprite(card).top, top);
+  EXPECT_EQ(std::pair(Sprite(card).left, Sprite(card).top), std::pair(left, top));
   EXPECT_GT(t.sprites.Moves(), moves);  // it jumped back
   EXPECT_FALSE(t->drag.Dragging);
 
@@ -72,9 +71,7 @@ TEST_F(Pointer, AGroupMovesAsOneRecordAndLandsInOrder) {
     const int pic = t->cPlay.GetPicID(0, 5, q);
     EXPECT_EQ(Sprite(pic).parent, -1);
     EXPECT_EQ(Sprite(pic).top, t->cGames.GetCordY(0, 5, q));
-    if (q > toTop + 1) {
-      EXPECT_GT(Sprite(pic).z, Sprite(t->cPlay.GetPicID(0, 5, q - 1)).z);
-    }
+    if (q > toTop + 1) EXPECT_GT(Sprite(pic).z, Sprite(t->cPlay.GetPicID(0, 5, q - 1)).z);
   }
   EXPECT_EQ(Sprite(foot).height, 1440);
 }

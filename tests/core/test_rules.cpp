@@ -50,36 +50,27 @@ TEST(Rules, CheckNumRanksAndRelations) {
   const Table& t = a.table;
   const int eight = a.At(0, 0), sevenSame = a.At(0, 1), sevenOther = a.At(0, 2), sevenSameColor = a.At(0, 3),
             nine = a.At(0, 4), ace = a.At(0, 5), king = a.At(0, 6);
-  EXPECT_TRUE(t.CheckNum(eight, sevenSame, -1, 1, false));
-  EXPECT_FALSE(t.CheckNum(eight, sevenOther, -1, 1, false));
-  EXPECT_TRUE(t.CheckNum(eight, sevenOther, -1, 2, false));
-  EXPECT_FALSE(t.CheckNum(eight, sevenSameColor, -1, 2, false));
-  EXPECT_TRUE(t.CheckNum(eight, sevenSameColor, -1, 5, false));
-  EXPECT_TRUE(t.CheckNum(eight, sevenOther, -1, 4, false));
-  EXPECT_FALSE(t.CheckNum(eight, sevenSame, -1, 4, false));
-  EXPECT_TRUE(t.CheckNum(eight, sevenSame, -1, 99, false));
-  EXPECT_FALSE(t.CheckNum(eight, nine, -1, 3, false));
-  EXPECT_TRUE(t.CheckNum(eight, nine, 1, 3, false));
-  EXPECT_TRUE(t.CheckNum(eight, nine, 0, 3, false));
-  EXPECT_FALSE(t.CheckNum(eight, nine, 2, 3, false));
-  // Ace-King wrap only when asked for.
-  EXPECT_FALSE(t.CheckNum(ace, king, -1, 3, false));
-  EXPECT_TRUE(t.CheckNum(ace, king, -1, 3, true));
-  EXPECT_TRUE(t.CheckNum(king, ace, 1, 3, true));
+  struct Case { int a, b, dir, order; bool wrap, fits; };
+  for (const Case& c : {Case{eight, sevenSame, -1, 1, false, true}, {eight, sevenOther, -1, 1, false, false},
+                        {eight, sevenOther, -1, 2, false, true}, {eight, sevenSameColor, -1, 2, false, false},
+                        {eight, sevenSameColor, -1, 5, false, true}, {eight, sevenOther, -1, 4, false, true},
+                        {eight, sevenSame, -1, 4, false, false}, {eight, sevenSame, -1, 99, false, true},
+                        {eight, nine, -1, 3, false, false}, {eight, nine, 1, 3, false, true},
+                        {eight, nine, 0, 3, false, true}, {eight, nine, 2, 3, false, false},
+                        // Ace-King wrap only when asked for.
+                        {ace, king, -1, 3, false, false}, {ace, king, -1, 3, true, true}, {king, ace, 1, 3, true, true}})
+    EXPECT_EQ(t.CheckNum(c.a, c.b, c.dir, c.order, c.wrap), c.fits) << c.a << " " << c.b << " " << c.dir << " " << c.order;
   EXPECT_TRUE(CheckOrder(t, ace, eight, 5, false));
   EXPECT_FALSE(CheckOrder(t, eight, nine, 4, false));
 }
 
 TEST(Rules, NamesOfCodes) {
-  EXPECT_EQ(GetOrderName(0), "Down Same Suit");
-  EXPECT_EQ(GetOrderName(4), "Down Regardless of Suit");
-  EXPECT_EQ(GetOrderName(5), "Any Card");
-  EXPECT_EQ(GetOrderName(6), "");
-  EXPECT_EQ(GetSpaceName(12), "King");
-  EXPECT_EQ(GetSpaceName(13), "Any Card");
-  EXPECT_EQ(GetSuitName(2), "Four");
-  EXPECT_EQ(GetBoolName(1), "True");
-  EXPECT_EQ(GetBoolName(-1), "");
+  using N = std::pair<std::string, std::string>;
+  for (const auto& [got, want] : {N{GetOrderName(0), "Down Same Suit"}, N{GetOrderName(4), "Down Regardless of Suit"},
+                                  N{GetOrderName(5), "Any Card"}, N{GetOrderName(6), ""}, N{GetSpaceName(12), "King"},
+                                  N{GetSpaceName(13), "Any Card"}, N{GetSuitName(2), "Four"}, N{GetBoolName(1), "True"},
+                                  N{GetBoolName(-1), ""}})
+    EXPECT_EQ(got, want);
 }
 
 // The seven differ only in Suits and MOrder; a stored MOrder 0 groups by the tableau's order.
@@ -114,10 +105,8 @@ TEST(Rules, TableauStartCentresFewerPiles) {
     c.Home(static_cast<int16_t>(piles), 4, 13, 0, 1, 2, 0);
     cGames g;
     SetupGame(c, g);
-    EXPECT_EQ(g.Area(0).StartX, x) << piles;
-    EXPECT_EQ(g.CardsOpen(), piles);
-    EXPECT_EQ(g.Area(1).StartX, 532);
-    EXPECT_EQ(g.Area(3).StartX, 2130);
+    EXPECT_EQ(std::tuple(g.Area(0).StartX, g.CardsOpen(), g.Area(1).StartX, g.Area(3).StartX), std::tuple(x, piles, 532, 2130))
+        << piles;
   }
 }
 
@@ -130,21 +119,18 @@ TEST(Rules, GroupsFollowTheGroupOrder) {
     Arranged a(r, {cards});
     return IsSequence(a.table, a.games, a.At(0, 0), 2);
   };
-  const test::Rules spider{}, plaza{.MOrder = 1}, coral{.MOrder = 2}, plus{.MOrder = 3};
-  EXPECT_TRUE(group(spider, mixed));
-  EXPECT_FALSE(group(plaza, mixed));
-  EXPECT_TRUE(group(plaza, alternating));
-  EXPECT_FALSE(group(coral, alternating));
-  EXPECT_FALSE(group(plus, sameSuit));
-  EXPECT_TRUE(group(plus, alternating));
-  // HOrder 0 with MOrder 0: the group order falls back on same suit.
-  EXPECT_FALSE(group({.HOrder = 0}, mixed));
-  EXPECT_TRUE(group({.HOrder = 0}, sameSuit));
-  // Any Card: every pair passes.
-  EXPECT_TRUE(group({.HOrder = 5, .MOrder = 5}, {{0, 0}, {9, 1}, {3, 2}}));
-  // With wrapping a group may run Two, Ace, King, Queen.
-  EXPECT_TRUE(group({.HAK = 1}, {{1, 0}, {0, 1}, {12, 2}}));
-  EXPECT_FALSE(group({}, {{1, 0}, {0, 1}, {12, 2}}));
+  const std::vector<Want> wrapped{{1, 0}, {0, 1}, {12, 2}};  // Two, Ace, King
+  struct Case { test::Rules rules; std::vector<Want> cards; bool group; };
+  for (const Case& c : {Case{{}, mixed, true}, {{.MOrder = 1}, mixed, false}, {{.MOrder = 1}, alternating, true},
+                        {{.MOrder = 2}, alternating, false}, {{.MOrder = 3}, sameSuit, false},
+                        {{.MOrder = 3}, alternating, true},
+                        // HOrder 0 with MOrder 0: the group order falls back on same suit.
+                        {{.HOrder = 0}, mixed, false}, {{.HOrder = 0}, sameSuit, true},
+                        // Any Card: every pair passes.
+                        {{.HOrder = 5, .MOrder = 5}, {{0, 0}, {9, 1}, {3, 2}}, true},
+                        // With wrapping a group may run Two, Ace, King, Queen.
+                        {{.HAK = 1}, wrapped, true}, {{}, wrapped, false}})
+    EXPECT_EQ(group(c.rules, c.cards), c.group) << c.rules.HOrder << " " << c.rules.MOrder << " " << c.rules.HAK;
 }
 
 TEST(Rules, WhereACardMayBeLaid) {
@@ -162,22 +148,20 @@ TEST(Rules, WhereACardMayBeLaid) {
 TEST(Rules, CompletedSetsAreFoundOnlyOnTop) {
   std::vector<Want> run;
   for (int n = 12; n >= 0; --n) run.push_back({n, n % 4, n < 3});
-  Arranged mixedSuits({}, {run});
-  EXPECT_TRUE(HasSetOnTop(mixedSuits.table, mixedSuits.games, 0));  // face-down cards count too
+  auto onTop = [](const test::Rules& r, const std::vector<Want>& cards) {
+    Arranged a(r, {cards});
+    return HasSetOnTop(a.table, a.games, 0);
+  };
+  EXPECT_TRUE(onTop({}, run));  // face-down cards count too
   auto covered = run;
   covered.push_back({4, 0});
-  Arranged a({}, {covered});
-  EXPECT_FALSE(HasSetOnTop(a.table, a.games, 0));
-  auto twelve = std::vector<Want>(run.begin() + 1, run.end());
-  Arranged b({}, {twelve});
-  EXPECT_FALSE(HasSetOnTop(b.table, b.games, 0));
-  Arranged sameSuitNeeded({.HOrder = 0}, {run});
-  EXPECT_FALSE(HasSetOnTop(sameSuitNeeded.table, sameSuitNeeded.games, 0));
+  EXPECT_FALSE(onTop({}, covered));
+  EXPECT_FALSE(onTop({}, std::vector<Want>(run.begin() + 1, run.end())));
+  EXPECT_FALSE(onTop({.HOrder = 0}, run));
   std::vector<Want> anyThirteen;
   for (int n = 0; n < 12; ++n) anyThirteen.push_back({(n * 5) % 13 == 0 ? 3 : (n * 5) % 13, n % 4});
   anyThirteen.push_back({0, 1});
-  Arranged any({.HOrder = 5, .MOrder = 5}, {anyThirteen});
-  EXPECT_TRUE(HasSetOnTop(any.table, any.games, 0));
+  EXPECT_TRUE(onTop({.HOrder = 5, .MOrder = 5}, anyThirteen));
 }
 
 TEST(Rules, FoundationsTakeAnAceThenOneRankHigher) {

@@ -225,11 +225,10 @@ TEST(SavedGamePlay, FinishedFileLoadsFinishedWhateverTheCaseOfItsExtension) {
   Save(a, "done.VQ1");
   b.Deal("Spider", 1);
   ASSERT_TRUE(b->cGamePlay.PlayFile(a.home.File("done.VQ1"), false));
-  EXPECT_EQ(b->cGamePlay.Game_Status(), 2);
-  EXPECT_TRUE(b.window.TimerEnabled(Timer::Forward));
-  EXPECT_FALSE(b.window.TimerEnabled(Timer::Game));
-  EXPECT_EQ(b->cEngine.GetTransTop(), 10);
-  EXPECT_EQ(b->cEngine.GetTransID(), 0);  // the replay is yet to come
+  // Ten records to replay, none replayed yet; the forward timer runs, the game's does not.
+  EXPECT_EQ(std::tuple(b->cGamePlay.Game_Status(), b.window.TimerEnabled(Timer::Forward), b.window.TimerEnabled(Timer::Game),
+                       b->cEngine.GetTransTop(), b->cEngine.GetTransID()),
+            std::tuple(2, true, false, 10, 0));
 }
 
 // Records are obeyed as written on whatever deal the header names; only the table the
@@ -240,8 +239,7 @@ TEST(SavedGamePlay, RecordsAreObeyedAsWrittenOnAnyDealOfTheSameShape) {
   for (const char* number : {" 5 ", " 8 "}) {  // its own deal, and a file made for another
     TestProgram tp;
     ASSERT_TRUE(Play(tp, WithLine(g.text, 2, number))) << tp.dialogs.shown.at(0);
-    EXPECT_EQ(GameNoField(tp->cGamePlay.GameNo()), number);
-    EXPECT_EQ(tp->cEngine.GetTransID(), 7);
+    EXPECT_EQ(std::tuple(GameNoField(tp->cGamePlay.GameNo()), tp->cEngine.GetTransID()), std::tuple(number, 7));
     EXPECT_EQ(Snapshot(*tp), g.played);
     decks.push_back(tp->cPlay.table().Deck());
   }

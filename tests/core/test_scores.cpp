@@ -51,8 +51,7 @@ TEST_F(Store, LinesKeepTheirFormAndBrokenOnesAreSkippedAlone) {
   EXPECT_EQ(r->Day, (CivilDate{2026, 11, 17}));
   const auto quoted = ReadScoreLine("\"1/2/2026\",\"Spider, Plus\",\"12.5\",1,2,3,0");
   ASSERT_TRUE(quoted);
-  EXPECT_EQ(quoted->GameName, "Spider, Plus");
-  EXPECT_EQ(quoted->GameNo, GameNo::Typed("12.5"));
+  EXPECT_EQ(std::tuple(quoted->GameName, quoted->GameNo), std::tuple("Spider, Plus", GameNo::Typed("12.5")));
   for (const char* bad : {"\"1/2/2026\",\"Spider\",1,2,3,4", "\"1/2/2026\",\"Spider\",1,2,3,4294967296,1",
                           "\"2/30/2026\",\"Spider\",1,2,3,4,1", "\"1/2/2026 25:00:00\",\"Spider\",1,2,3,4,1",
                           "\"1/2/2026\",\"Spider\",1,2,3,4,1,9", "1/2/2026,\"Spider\",1,2,3,4,1"})
@@ -63,10 +62,8 @@ TEST_F(Store, LinesKeepTheirFormAndBrokenOnesAreSkippedAlone) {
   auto& s = t->cScore;
   s.OpenAllScore();
   ASSERT_EQ(s.ScoreTop(), 3);
-  EXPECT_EQ(s.ScoreItem(2).GameName, "Caf\u00e9");
-  EXPECT_EQ(s.ScoreItem(3).Player, "Player1");
-  EXPECT_EQ(s.Skipped().size(), 1u);
-  EXPECT_EQ(s.AllTotals().Score, 683 + 3 - 7);
+  EXPECT_EQ(std::tuple(s.ScoreItem(2).GameName, s.ScoreItem(3).Player, s.Skipped().size(), s.AllTotals().Score),
+            std::tuple("Caf\u00e9", "Player1", 1u, 683 + 3 - 7));
 
   // The next game ends the cut line first; the file is beside the data folder.
   t.Deal("Spider", 42);
@@ -95,32 +92,26 @@ TEST_F(Store, SortTakesTheLaterOfEqualsAndFinSortKeepsZeroOutOfFreeSlots) {
   Lines("Ann", ScoreLine(Rec(60, 0, 0)) + ScoreLine(Rec(40, 1, 0, 3)));
   s.OpenAllScore();
   s.Sort("", "", 1);
-  EXPECT_EQ(s.TopItem(1).Time, 21);  // the last of 21 equal scores on top
-  EXPECT_EQ(s.TopItem(20).Time, 2);  // and the first fell out
+  EXPECT_EQ(std::tuple(s.TopItem(1).Time, s.TopItem(20).Time), std::tuple(21, 2));  // the last of 21 equals on top
   s.Sort("", "Ann", 0);
-  EXPECT_EQ(s.TopItem(1).Score, 60);
-  EXPECT_EQ(s.TopItem(2).Score, 40);
-  EXPECT_TRUE(s.TopItem(3).Date.empty());
+  EXPECT_EQ(std::tuple(s.TopItem(1).Score, s.TopItem(2).Score, s.TopItem(3).Date), std::tuple(60, 40, ""));
   s.Sort("Spider", "", 0);
   EXPECT_EQ(s.TopItem(1).Score, 60);
   // By time: Ann's won game of 0 s goes ahead of the filled slots; on an empty list it would not.
   s.FinSort(true, false);
-  EXPECT_EQ(s.TopItem(1).Time, 0);
-  EXPECT_EQ(s.TopItem(2).Time, 1);
+  EXPECT_EQ(std::tuple(s.TopItem(1).Time, s.TopItem(2).Time), std::tuple(0, 1));
   s.FinSort(false, true);
   EXPECT_EQ(s.TopItem(1).Moves, 3);
   Lines("Player1", ScoreLine(Rec(5, 1, 0)) + ScoreLine(Rec(5, 1, 9)));
   Lines("Ann", "");
   s.OpenAllScore();
   s.FinSort(true, false);
-  EXPECT_EQ(s.TopItem(1).Time, 9);
-  EXPECT_TRUE(s.TopItem(2).Date.empty());
+  EXPECT_EQ(std::tuple(s.TopItem(1).Time, s.TopItem(2).Date), std::tuple(9, ""));
   // Won games of 0 points or fewer never reach the list by score.
   Lines("Player1", ScoreLine(Rec(0, 1)) + ScoreLine(Rec(-5, 1)) + ScoreLine(Rec(1, 1)));
   s.OpenAllScore();
   s.Sort("", "", 1);
-  EXPECT_EQ(s.TopItem(1).Score, 1);
-  EXPECT_TRUE(s.TopItem(2).Date.empty());
+  EXPECT_EQ(std::tuple(s.TopItem(1).Score, s.TopItem(2).Date), std::tuple(1, ""));
   s.CloseScore();
   EXPECT_EQ(s.ScoreTop(), 0);
 }
@@ -132,14 +123,12 @@ TEST(ScoreDates, CalendarDifferencesAndLabels) {
     r.Day = d;
     return LogKeeps(r, key, today);
   };
-  EXPECT_TRUE(keeps({2026, 11, 6}, "3d"));
-  EXPECT_FALSE(keeps({2026, 11, 6}, "t"));  // 23:59 yesterday is a day old at 00:01
-  EXPECT_TRUE(keeps({2026, 10, 31}, "7d"));
-  EXPECT_FALSE(keeps({2026, 10, 30}, "7d"));
-  EXPECT_TRUE(keeps({2026, 6, 30}, "5m"));  // months count by month
-  EXPECT_FALSE(keeps({2026, 5, 31}, "5m"));
-  EXPECT_FALSE(keeps({2026, 11, 8}, "30d"));  // the future shows only under all
-  EXPECT_TRUE(keeps({2026, 11, 8}, ""));
+  // 23:59 yesterday is a day old at 00:01; months count by month; the future shows only under all.
+  struct Case { CivilDate day; const char* key; bool kept; };
+  for (const Case& c : {Case{{2026, 11, 6}, "3d", true}, {{2026, 11, 6}, "t", false}, {{2026, 10, 31}, "7d", true},
+                        {{2026, 10, 30}, "7d", false}, {{2026, 6, 30}, "5m", true}, {{2026, 5, 31}, "5m", false},
+                        {{2026, 11, 8}, "30d", false}, {{2026, 11, 8}, "", true}})
+    EXPECT_EQ(keeps(c.day, c.key), c.kept) << c.key << " " << c.day.month << "/" << c.day.day;
   EXPECT_EQ(MonthsBack({2026, 3, 31}, 1), (CivilDate{2026, 2, 28}));
   EXPECT_EQ(MonthsBack({2024, 3, 31}, 1), (CivilDate{2024, 2, 29}));
   EXPECT_EQ(MonthsBack({2026, 1, 15}, 13), (CivilDate{2024, 12, 15}));
@@ -155,18 +144,17 @@ TEST_F(Store, FiguresCutTowardZeroAndRoundExactTies) {
   TotalsRec t2{.Played = 2, .Won = 0, .Lost = 2, .Score = -7, .Moves = 13, .Time = 3};
   const auto rows = GeneralRows(t2);
   ASSERT_EQ(rows.size(), 13u);
-  EXPECT_EQ(rows[7].second, "-3");     // score per game
-  EXPECT_EQ(rows[8].second, "0:00:02");  // 1.5 s: to the even second
-  EXPECT_EQ(rows[10].second, "15600");  // moves per hour
-  EXPECT_EQ(rows[11].second, "-8400");
+  // Score per game, time per game (1.5 s: to the even second), moves and score per hour.
+  EXPECT_EQ(std::tuple(rows[7].second, rows[8].second, rows[10].second, rows[11].second),
+            std::tuple("-3", "0:00:02", "15600", "-8400"));
   EXPECT_EQ(GeneralRows({})[12].second, "0%");
-  EXPECT_EQ(GamePercent({.Played = 3, .Won = 2}), "66.67%");
-  EXPECT_EQ(PlayerPercent({.Played = 3, .Won = 2}), "67%");
-  EXPECT_EQ(PlayerPercent({.Played = 8, .Won = 1}), "12%");
-  EXPECT_EQ(PlayerPercent({.Played = 40, .Won = 1}), "2%");
-  EXPECT_EQ(GamePercent({.Played = 32, .Won = 1}), "3.12%");
-  EXPECT_EQ(GamePercent({.Played = 8, .Won = 1}), "12.5%");
-  EXPECT_EQ(GamePercent({.Played = 200, .Won = 1}), "0.5%");
+  using P = std::pair<TotalsRec, const char*>;
+  for (const auto& [totals, want] : {P{{.Played = 3, .Won = 2}, "66.67%"}, P{{.Played = 32, .Won = 1}, "3.12%"},
+                                P{{.Played = 8, .Won = 1}, "12.5%"}, P{{.Played = 200, .Won = 1}, "0.5%"}})
+    EXPECT_EQ(GamePercent(totals), want);
+  for (const auto& [totals, want] : {P{{.Played = 3, .Won = 2}, "67%"}, P{{.Played = 8, .Won = 1}, "12%"},
+                                P{{.Played = 40, .Won = 1}, "2%"}})
+    EXPECT_EQ(PlayerPercent(totals), want);
 
   // Periods: a whole day, month or year each, oldest first.
   Lines("Player1", "\"11/18/2026 11:59:59 PM\",\"Spider\",1,10,2,5,1\r\n\"11/17/2026\",\"Spider\",2,10,2,7,0\r\n"
@@ -174,12 +162,10 @@ TEST_F(Store, FiguresCutTowardZeroAndRoundExactTies) {
   t->cScore.OpenAllScore();
   const auto days = PeriodRows(t->cScore, PeriodItems()[0], {2026, 11, 18});
   ASSERT_EQ(days.size(), 5u);
-  EXPECT_EQ(days[4].Label, "Nov 18");
-  EXPECT_EQ(days[4].Played, 1);
+  EXPECT_EQ(std::tuple(days[4].Label, days[4].Played), std::tuple("Nov 18", 1));
   EXPECT_EQ(days[3].Score, 7);
   const auto months = PeriodRows(t->cScore, PeriodItems()[3], {2026, 11, 18});
-  EXPECT_EQ(months[3].Label, "Oct 26");
-  EXPECT_EQ(months[3].Won, 1);
+  EXPECT_EQ(std::tuple(months[3].Label, months[3].Won), std::tuple("Oct 26", 1));
   EXPECT_EQ(months[4].Played, 2);
   EXPECT_EQ(t->cScore.PeriodTotals("11/17/2026 1:00:00 PM", "yyyy").Played, 3);
 }
@@ -229,14 +215,13 @@ TEST_F(Store, TheReportIsByteForByte) {
 TEST_F(Store, PlayersKeepTheirSlotsAndTheirFiles) {
   auto& app = *t.app;
   Lines("Ann", "\"1/2/2026\",\"Spider\",5,1,2,3,0\r\n");
-  EXPECT_EQ(AddPlayer(app, ""), "Please Enter a Valid Name");
-  EXPECT_EQ(AddPlayer(app, "a/b"), "Please Enter a Valid Name");
-  EXPECT_EQ(AddPlayer(app, "Ann"), "Player Exists !");
-  EXPECT_EQ(AddPlayer(app, "ann"), "");  // names compare with case
+  // Names compare with case.
+  for (const auto& [name, said] : {std::pair{"", "Please Enter a Valid Name"}, {"a/b", "Please Enter a Valid Name"},
+                                   {"Ann", "Player Exists !"}, {"ann", ""}})
+    EXPECT_EQ(AddPlayer(app, name), said) << name;
   EXPECT_EQ(RenamePlayer(app, "Ann", "Ann"), "Player Exists !");
   EXPECT_EQ(RenamePlayer(app, "Player1", "Bo"), "");
-  EXPECT_EQ(GetCurPlayer(app.cRegistry), "Bo");  // the current player stays current
-  EXPECT_EQ(RenamePlayer(app, "Ann", "Cy"), "");
+  EXPECT_EQ(std::tuple(GetCurPlayer(app.cRegistry), RenamePlayer(app, "Ann", "Cy")), std::tuple("Bo", ""));  // stays current
   EXPECT_FALSE(fs::exists(t->cScore.ScoreFile("Ann")));
   EXPECT_EQ(test::ReadFile(t->cScore.ScoreFile("Cy")), "\"1/2/2026\",\"Spider\",5,1,2,3,0\r\n");
   // A rename onto a name whose file is still there adds the games to it.
@@ -247,8 +232,7 @@ TEST_F(Store, PlayersKeepTheirSlotsAndTheirFiles) {
   EXPECT_EQ(DeletePlayer(app, "Bo"), "The current player cannot be deleted.");
   EXPECT_EQ(DeletePlayer(app, "Dee"), "");
   EXPECT_FALSE(fs::exists(t->cScore.ScoreFile("Dee")));
-  EXPECT_EQ(GetPlayer(app.cRegistry, 2), "ann");  // slot 3 moved up
-  EXPECT_EQ(PlayerCount(app.cRegistry), 2);
+  EXPECT_EQ(std::tuple(GetPlayer(app.cRegistry, 2), PlayerCount(app.cRegistry)), std::tuple("ann", 2));  // slot 3 moved up
   for (int i = 3; i <= 20; ++i) AddPlayer(app, "P" + std::to_string(i));
   EXPECT_EQ(AddPlayer(app, "P21"), "Maximum 20 Players Only!");
 }
@@ -273,20 +257,16 @@ TEST_F(Store, AWinIsRecordedBeforeTheFinishShowsAndItsCloseKeepsTheGame) {
   EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
   CloseFinish(*t.app, FinishSavePath(*t.app));
   EXPECT_GT(linesAtWin, 0u);
-  EXPECT_EQ(t->cGamePlay.Game_Status(), 0);
-  EXPECT_EQ(t->cScore.SesTop(), 1);
-  EXPECT_EQ(t->cScore.SesItem(1).Won, 1);
+  EXPECT_EQ(std::tuple(t->cGamePlay.Game_Status(), t->cScore.SesTop(), t->cScore.SesItem(1).Won), std::tuple(0, 1, 1));
   t->cScore.OpenAllScore();
   ASSERT_EQ(t->cScore.ScoreTop(), 1);
   EXPECT_EQ(t->cScore.ScoreItem(1).Time, timeAtWin);
   const std::string saved = t->cData.SavedFolder() + "/Test Rules-1.vq1";
-  EXPECT_TRUE(fs::exists(saved));
-  EXPECT_EQ(RecentMenuEntries(*t.app, kRecentSaved).at(0), saved);
+  EXPECT_TRUE(fs::exists(saved) && RecentMenuEntries(*t.app, kRecentSaved).at(0) == saved);
   EXPECT_EQ(ReadFavFile(t->cData.FavFolder() + "/Test Rules - 1")->GameName, "Test Rules");
   // The stop that follows leaves nothing to come back.
   ShutDown(*t.app);
-  EXPECT_EQ(t->cScore.SesTop(), 1);
-  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
+  EXPECT_EQ(std::tuple(t->cScore.SesTop(), t->cRegistry.Get(setting::UnFin)), std::tuple(1, 0));
 }
 
 TEST_F(Store, AWonPendingGameLeavesTheListForGood) {
@@ -301,9 +281,7 @@ TEST_F(Store, AWonPendingGameLeavesTheListForGood) {
     CloseFinish(*t.app, "");
   };
   ASSERT_TRUE(test::WinGame(t));
-  EXPECT_TRUE(menuAtWin.empty());
-  EXPECT_FALSE(fs::exists(pending));
-  EXPECT_TRUE(PendingMenuEntries(*t.app).empty());
+  EXPECT_TRUE(menuAtWin.empty() && !fs::exists(pending) && PendingMenuEntries(*t.app).empty());
   t->cScore.OpenAllScore();
   EXPECT_EQ(t->cScore.ScoreTop(), 1);
 }

@@ -14,22 +14,17 @@ namespace {
 TEST(NumberDialog, TheRangeIsTestedInAFloatAndTheTextGoesOnAsTyped) {
   test::TestProgram t;
   auto ok = [&](const std::string& s) { return AcceptedGameNo(*t.app, s).has_value(); };
-  EXPECT_EQ(NumberRangeText(*t.app), "0 and 999,999");
-  EXPECT_FALSE(ok("999999"));
-  EXPECT_TRUE(ok("999998"));
-  EXPECT_FALSE(ok("0"));
-  EXPECT_FALSE(ok(""));
-  EXPECT_FALSE(ok("1e3"));
-  EXPECT_FALSE(ok("-5"));
   EXPECT_EQ(*AcceptedGameNo(*t.app, " 0012.5 "), GameNo::Typed("0012.5"));
-  t->cRegistry.Set(setting::RangeIndex, 9);
-  EXPECT_EQ(NumberRangeText(*t.app), "0 and 999,999,999");
-  EXPECT_FALSE(ok("999999998"));  // a float makes it 1,000,000,000
-  EXPECT_TRUE(ok("999999900"));
-  t->cRegistry.Set(setting::RangeIndex, 1);
-  EXPECT_EQ(NumberRangeText(*t.app), "0 and 9");
-  EXPECT_TRUE(ok("8"));
-  EXPECT_FALSE(ok("9"));
+  struct Case { int rangeIndex; const char* range; std::vector<std::pair<const char*, bool>> typed; };
+  for (const Case& c : {Case{6, "0 and 999,999", {{"999999", false}, {"999998", true}, {"0", false}, {"", false},
+                                                   {"1e3", false}, {"-5", false}}},
+                        // a float makes 999999998 1,000,000,000
+                        Case{9, "0 and 999,999,999", {{"999999998", false}, {"999999900", true}}},
+                        Case{1, "0 and 9", {{"8", true}, {"9", false}}}}) {
+    t->cRegistry.Set(setting::RangeIndex, c.rangeIndex);
+    EXPECT_EQ(NumberRangeText(*t.app), c.range);
+    for (const auto& [text, accepted] : c.typed) EXPECT_EQ(ok(text), accepted) << '"' << text << '"';
+  }
 }
 
 std::vector<std::string> Texts(const SelectNode& node, const std::string& indent = "") {
@@ -59,18 +54,15 @@ TEST(Selection, EachCategoryListsItsSourceAsItStands) {
   EXPECT_EQ(texts("Std").size(), 7u);
   EXPECT_EQ(texts("All"), texts("Std"));  // no created games yet
   EXPECT_EQ(texts("Org"), V{});
-  EXPECT_EQ(texts("Hot"), V{"Scarab [Scarab]"});
-  EXPECT_EQ(texts("Save"), V{"Scarab - 77 (0%) [Scarab]"});
-  EXPECT_EQ(texts("rSave"), V{"Scarab - 77 (0%) [Scarab]"});
-  EXPECT_EQ(texts("Inc"), V{"Scarab-77 (0%) [Scarab]"});
-  EXPECT_EQ(texts("Fin"), V{"Scarab-77 [Scarab]"});  // no percentage
-  EXPECT_EQ(texts("rPlay"), V{"Scarab - 77 [Scarab]"});
+  // A finished game shows no percentage.
+  for (const auto& [key, text] : {std::pair{"Hot", "Scarab [Scarab]"}, {"Save", "Scarab - 77 (0%) [Scarab]"},
+                                  {"rSave", "Scarab - 77 (0%) [Scarab]"}, {"Inc", "Scarab-77 (0%) [Scarab]"},
+                                  {"Fin", "Scarab-77 [Scarab]"}, {"rPlay", "Scarab - 77 [Scarab]"}})
+    EXPECT_EQ(texts(key), V{text}) << key;
   EXPECT_EQ(texts("Fav"), (V{"Box []", "  Named [Scarab]", "Scarab - 77 [Scarab]"}));
   const SelectTree fav = FillSelectTree(*t.app, "Fav");
-  EXPECT_EQ(fav.root.key, t->cData.FavFolder());
-  EXPECT_EQ(fav.root.text, "Favorites");
-  EXPECT_FALSE(FillSelectTree(*t.app, "Save").rootBold);
-  EXPECT_TRUE(FillSelectTree(*t.app, "Fin").rootBold);
+  EXPECT_EQ(std::tuple(fav.root.key, fav.root.text), std::tuple(t->cData.FavFolder(), "Favorites"));
+  EXPECT_EQ(std::pair(FillSelectTree(*t.app, "Save").rootBold, FillSelectTree(*t.app, "Fin").rootBold), std::pair(false, true));
   // The last choice comes back while it is there; a gone one leaves the root chosen.
   EXPECT_EQ(FillSelectTree(*t.app, "All").selected, "m");
   StoreSelItem(*t.app, "Save", t->cData.SavedFolder() + "/mine.vq0");
@@ -86,16 +78,13 @@ TEST(Selection, DetailsShowTheFileOwnRulesAndLeaveTheTableAlone) {
   ASSERT_TRUE(t->cEngine.SavetoFile(file));
   const std::string unknown = t->cGamePlay.GameName();
   const SelectDetails d = DetailsOf(*t.app, "Save", file, unknown);
-  EXPECT_EQ(d.det[0], "Game Name :" + unknown);
-  EXPECT_EQ(d.det[5], "Time Taken : 0:00:00");
-  EXPECT_EQ(d.det[6], "Percentage Completed :0%");
-  EXPECT_EQ(d.sub[2], "No of Tableau Piles : 8");
-  EXPECT_EQ(d.sub[3].substr(0, 21), "Ace-King Wrapping  : ");
+  EXPECT_EQ(std::tuple(d.det[0], d.det[5], d.det[6], d.sub[2], d.sub[3].substr(0, 21)),
+            std::tuple("Game Name :" + unknown, "Time Taken : 0:00:00", "Percentage Completed :0%",
+                       "No of Tableau Piles : 8", "Ace-King Wrapping  : "));
   EXPECT_TRUE(t->cCustom.HoldsHeaderFor(unknown));  // Restart still deals it
   const SelectDetails spider = DetailsOf(*t.app, "rPlay", "Spider - 0042", "Spider");
-  EXPECT_EQ(spider.det[1], "Game Number : 0042");
-  EXPECT_EQ(spider.det[2], "Game Type :Standard");
-  EXPECT_EQ(spider.sub[2], "No of Tableau Piles : 10");
+  EXPECT_EQ(std::tuple(spider.det[1], spider.det[2], spider.sub[2]),
+            std::tuple("Game Number : 0042", "Game Type :Standard", "No of Tableau Piles : 10"));
   EXPECT_EQ(spider.preview[2].picture, t->cImages.PreviewPicture(cImages::PreviewTableau, 10, spider.preview[2].picture.b));
   EXPECT_EQ(spider.preview[1].x, 125);
   EXPECT_TRUE(t->cCustom.HoldsHeaderFor(unknown));

@@ -93,9 +93,7 @@ TEST_F(IniSettingsTest, DamagedFilesKeepWhatReadWholeAndAreCopiedAsideOnce) {
     for (int write = 0; write < 2; ++write) ASSERT_TRUE(store.WriteInt("General", "UnFin", 0));
     EXPECT_EQ(Disk(), after);
   }
-  EXPECT_EQ(Disk(".bad"), cases[0].first);
-  EXPECT_EQ(Disk(".bad-1"), cases[2].first);
-  EXPECT_EQ(Disk(".bad-2"), cases[3].first);
+  for (const auto& [suffix, k] : {std::pair{".bad", 0}, {".bad-1", 2}, {".bad-2", 3}}) EXPECT_EQ(Disk(suffix), cases[k].first) << suffix;
   // Damage written by another program after the store read a clean file is kept too.
   IniSettingsStore store(file_);
   const std::string garbage = "[General]\nUnFin=1\n\x01\x02 not a setting\n";

@@ -94,8 +94,7 @@ TEST(Solver, HandMadeWinsAndLosses) {
       piles[i % 10].insert(piles[i % 10].begin(), Want{under[i / 2], 2 + i % 2, 6 + i % 2, false});
     Laid a({10, 0, 13, 0, 1, 2, 0}, piles);
     const SolverResult r = a.Solve();
-    EXPECT_EQ(r.verdict, Verdict::Lost);
-    EXPECT_EQ(r.positions, 1);
+    EXPECT_EQ(std::tuple(r.verdict, r.positions), std::tuple(Verdict::Lost, 1));
   }
   {  // A double-clicked Ace has to come back from its foundation onto its run.
     Laid a(kOneSuit, {KingToTwo(0)}, {}, {{{0, 0, 0}}});
@@ -122,8 +121,7 @@ TEST(Solver, WinsThatNeedASplitGroupOrARowOntoAnEmptyPile) {
     ASSERT_EQ(r.verdict, Verdict::Winnable);
     // The first move lifts a Two with its Ace off a Three: the only other first moves
     // send an Ace home alone.
-    EXPECT_EQ(r.solution.front().kind, SolverMove::Drag);
-    EXPECT_EQ(r.solution.front().fromPos, 1);
+    EXPECT_EQ(std::tuple(r.solution.front().kind, r.solution.front().fromPos), std::tuple(SolverMove::Drag, 1));
   }
   {  // Six piles; the row's first card goes onto the empty pile 0 and is the Ace the set
      // under pile 1's set waits for.
@@ -189,16 +187,13 @@ TEST(Solver, BudgetsAndStopsGiveUnknown) {
   const SolverGame g(t->cPlay.table(), t->cGames, 30000);
   int nodes = 0;
   SolverResult r = Solve(g, {}, {}, [&] { return ++nodes < 50; });
-  EXPECT_EQ(r.verdict, Verdict::Unknown);
-  EXPECT_EQ(r.limit, "stop");
-  EXPECT_EQ(nodes, 50);
+  EXPECT_EQ(std::tuple(r.verdict, r.limit, nodes), std::tuple(Verdict::Unknown, "stop", 50));
   std::stop_source stop;
   stop.request_stop();
   EXPECT_EQ(Solve(g, {}, stop.get_token()).limit, "stop");
   EXPECT_EQ(Solve(g, {10000, 512, 20}).limit, "positions");
   r = Solve(g, {0, 512, 0});
-  EXPECT_EQ(r.limit, "time");
-  EXPECT_EQ(r.positions, 0);
+  EXPECT_EQ(std::tuple(r.limit, r.positions), std::tuple("time", 0));
 }
 
 // Plays the solver's moves through the pointer, as a player would.

@@ -41,8 +41,13 @@ std::multiset<std::string> GamesKept(const Program& app) {
   return kept;
 }
 
-void Stop(test::TestProgram& t) {
-  ASSERT_TRUE(StopProgram(*t.app, nullptr));
+void Stop(test::TestProgram& t) { ASSERT_TRUE(StopProgram(*t.app, nullptr)); }
+
+// A new run of the program on the same settings and files, as after a stop or a crash.
+void StartAgain(test::TestProgram& t) {
+  t.Restart();
+  StartUp(*t.app);
+  FirstGame(*t.app, "");
 }
 
 // What lies about before each way of starting a game: a game on the table with a row
@@ -91,9 +96,7 @@ const std::vector<Way>& Ways() {
       {"resumed at start-up",
        [](auto& t, auto&) {
          Stop(t);
-         t.Restart();
-         StartUp(*t.app);
-         FirstGame(*t.app, "");
+         StartAgain(t);
        },
        false},
   };
@@ -122,9 +125,7 @@ std::multiset<std::string> StartStopAndStartAgain(const Way& way, long stopAt, l
   for (const auto& game : kept) EXPECT_EQ(after.count(game), 1u) << way.name << " at yield " << stopAt << ": " << game;
   EXPECT_EQ(std::set<std::string>(after.begin(), after.end()).size(), after.size()) << way.name << " at " << stopAt;
   // The next start brings back no game given up.
-  t.Restart();
-  StartUp(*t.app);
-  FirstGame(*t.app, "");
+  StartAgain(t);
   if (way.givesUpTheRunningGame) EXPECT_NE(OnTable(*t.app), before.running) << way.name << " at " << stopAt;
   return after;
 }
@@ -151,11 +152,6 @@ struct Crash : ::testing::Test {
     t.clock.ms = ms;
     t->keeper.Tick();
   }
-  void CrashAndStartAgain() {
-    t.Restart();
-    StartUp(*t.app);
-    FirstGame(*t.app, "");
-  }
   test::TestProgram t;
 };
 
@@ -172,7 +168,7 @@ TEST_F(Crash, TheGameComesBackAtItsLastKeptStep) {
   t->drag.Dragging = false;
   Tick(1500);
   const auto table = test::Snapshot(*t.app);
-  CrashAndStartAgain();
+  StartAgain(t);  // after a crash
   EXPECT_EQ(OnTable(*t.app), "Spider - 1234 @20");
   EXPECT_EQ(test::Snapshot(*t.app), table);
   EXPECT_TRUE(t->cGamePlay.Game_Running());
@@ -196,7 +192,7 @@ TEST_F(Crash, WithoutKeepingGamesTheGameBecomesAnAutoSavedCopy) {
   t.settings.WriteInt("Options", "GameSave", 0);
   t.settings.WriteInt("Options", "EnableInc", 0);  // a crash is no choice of the user's
   Tick(0);
-  CrashAndStartAgain();
+  StartAgain(t);  // after a crash
   const auto copies = ListAutoSaves(*t.app, false);
   ASSERT_EQ(copies.size(), 1u);
   EXPECT_EQ(Signature(copies[0].header), "Spider - 1234 @10");
@@ -207,7 +203,7 @@ TEST_F(Crash, WithoutKeepingGamesTheGameBecomesAnAutoSavedCopy) {
 TEST_F(Crash, AGameEndedBeforeTheCrashNeverComesBack) {
   Tick(0);
   ExecCommand(*t.app, "Close");
-  CrashAndStartAgain();
+  StartAgain(t);  // after a crash
   EXPECT_EQ(GamesKept(*t.app), (std::multiset<std::string>{"Spider - 1234 @10"}));  // its auto-saved copy
   EXPECT_NE(OnTable(*t.app), "Spider - 1234 @10");
   // Nor does one moved to the pending list: it waits there, once.
@@ -215,7 +211,7 @@ TEST_F(Crash, AGameEndedBeforeTheCrashNeverComesBack) {
   ExecCommand(*t.app, "AddPend");
   const std::string pending = GetPendingFiles(*t.app).at(0);
   Tick(0);
-  CrashAndStartAgain();
+  StartAgain(t);  // after a crash
   EXPECT_EQ(GetPendingFiles(*t.app), std::vector<std::string>{pending});
 }
 
@@ -226,7 +222,7 @@ TEST_F(Crash, APendingGameIsKeptCurrentInItsOwnFile) {
   test::DealRows(t, 1);
   Tick(0);
   EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
-  CrashAndStartAgain();
+  StartAgain(t);  // after a crash
   EXPECT_EQ(ReadGameHeader(pending)->Moves, 20);
   EXPECT_EQ(GetPendingFiles(*t.app), std::vector<std::string>{pending});
   EXPECT_NE(t->cGamePlay.PendFile(), pending);  // it waits in the list, not on the table
@@ -271,20 +267,16 @@ void FireEverything(Program& app) {
     PointerReleased(app, card);
     PointerDoubleClicked(app, card);
   }
-  ReplayTick(app, true);
-  ReplayTick(app, false);
+  for (bool forward : {true, false}) ReplayTick(app, forward);
 }
 
 struct Journal {
   explicit Journal(const Program& app) : id(app.cEngine.GetTransID()), top(app.cEngine.GetTransTop()) {
-    for (int i = 1; i <= top; ++i) {
-      const TransRec& r = app.cEngine.Record(i);
-      records.push_back({r.PicID, r.SCell, r.SPile, r.SPos, r.DCell, r.DPile, r.DPos, r.mCards, r.tMod, r.Multi});
-    }
+    for (int i = 1; i <= top; ++i) records.push_back(app.cEngine.Record(i));
   }
   bool operator==(const Journal&) const = default;
   int id, top;
-  std::vector<std::vector<int>> records;
+  std::vector<TransRec> records;
 };
 
 TEST(Motion, NothingFiredWhileCardsMoveChangesTheTable) {

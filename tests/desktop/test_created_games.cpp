@@ -20,7 +20,6 @@
 #include "RulesDialog.h"
 #include "TemporaryUserHome.h"
 #include "TestProgram.h"
-#include "created/GamFile.h"
 #include "lists/Recent.h"
 #include "session/FirstGame.h"
 #include "session/Commands.h"
@@ -85,18 +84,18 @@ class CreatedGamesTest : public QObject {
   TemporaryUserHome home_;
 
  private slots:
-  void editorWithNoGamesOffersOnlyNewWizardAndClose() {
-    test::TestProgram t;
-    GameStudioDialog dlg(*t);
-    QCOMPARE(dlg.windowTitle(), QString("Game Editor"));
-    for (const char* b : {"cmdEdit", "cmdDelete", "cmdRules", "cmdPlay"}) QVERIFY2(!Get<QPushButton>(dlg, b)->isEnabled(), b);
-    for (const char* b : {"cmdAdd", "cmdWizard", "cmdClose"}) QVERIFY2(Get<QPushButton>(dlg, b)->isEnabled(), b);
-    QCOMPARE(Get<QTreeWidget>(dlg, "lvWiz")->topLevelItemCount(), 0);
-    QCOMPARE(Get<QGroupBox>(dlg, "Frame1")->title(), QString("Game Details"));
-  }
-
+  // With no games only New, Wizard and Close work; with some, the details show, and the
+  // running game is neither edited nor deleted.
   void editorShowsDetailsAndRefusesTheRunningGame() {
     test::TestProgram t;
+    {
+      GameStudioDialog none(*t);
+      QCOMPARE(none.windowTitle(), QString("Game Editor"));
+      for (const char* b : {"cmdEdit", "cmdDelete", "cmdRules", "cmdPlay"}) QVERIFY2(!Get<QPushButton>(none, b)->isEnabled(), b);
+      for (const char* b : {"cmdAdd", "cmdWizard", "cmdClose"}) QVERIFY2(Get<QPushButton>(none, b)->isEnabled(), b);
+      QCOMPARE(Get<QTreeWidget>(none, "lvWiz")->topLevelItemCount(), 0);
+      QCOMPARE(Get<QGroupBox>(none, "Frame1")->title(), QString("Game Details"));
+    }
     Create(t, "Alpha", 6);
     Create(t, "beta", 9);
     t.Deal("Alpha", 4);

@@ -103,11 +103,11 @@ class DialogTest : public QObject {
     QCOMPARE(t->cRegistry.Get(setting::ReplaySpeed), 0);
   }
 
-  void deckTreeByGroups() {
+  void deckTreeByGroupsClicksAndOk() {
     test::TestProgram t;
     t->cRegistry.Set(setting::DeckIndex, 6);
-    CardDeckDialog dlg(*t);
-    QTreeWidgetItem* root = Get<QTreeWidget>(dlg, "tvDeck")->topLevelItem(0);
+    CardDeckDialog stored(*t);
+    QTreeWidgetItem* root = Get<QTreeWidget>(stored, "tvDeck")->topLevelItem(0);
     QCOMPARE(root->text(0), QString("Card Decks"));
     QCOMPARE(root->childCount(), 3);
     // Every deck once, under its own group, named by the group and its place in it.
@@ -122,22 +122,18 @@ class DialogTest : public QObject {
     std::sort(tags.begin(), tags.end());
     QCOMPARE(tags.size(), t->cImages.DeckCount());
     QCOMPARE(tags.last(), t->cImages.DeckCount());
-    QCOMPARE(Get<QTreeWidget>(dlg, "tvDeck")->currentItem()->data(0, CardDeckDialog::kTagRole).toInt(), 6);
-    // A stored deck the library does not have opens on the default deck.
+    QCOMPARE(Get<QTreeWidget>(stored, "tvDeck")->currentItem()->data(0, CardDeckDialog::kTagRole).toInt(), 6);
+    // A stored deck the library does not have opens on the default deck; a click on a group
+    // chooses nothing, one on a deck shows it, and OK stores it.
     t->cRegistry.Set(setting::DeckIndex, 99);
-    CardDeckDialog mended(*t);
-    QCOMPARE(Get<QTreeWidget>(mended, "tvDeck")->currentItem()->data(0, CardDeckDialog::kTagRole).toInt(), 7);
-  }
-
-  void deckClicksAndOk() {
-    test::TestProgram t;
     t->cGamePlay.PlayNumber("Spider", GameNo::Number(1));
     CardDeckDialog dlg(*t);
+    auto* tree = Get<QTreeWidget>(dlg, "tvDeck");
+    QCOMPARE(tree->currentItem()->data(0, CardDeckDialog::kTagRole).toInt(), 7);
     dlg.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dlg));
-    auto* tree = Get<QTreeWidget>(dlg, "tvDeck");
     auto* preview = Get<QLabel>(dlg, "PicDeck");
-    QTreeWidgetItem* root = tree->topLevelItem(0);
+    root = tree->topLevelItem(0);
     const QImage before = preview->pixmap().toImage();
 
     Click(tree, root->child(0));  // a group is no deck

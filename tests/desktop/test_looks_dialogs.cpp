@@ -23,8 +23,6 @@
 #include "QtSound.h"
 #include "SoundsDialog.h"
 #include "TestProgram.h"
-#include "settings/BackgroundSettings.h"
-#include "settings/ColorScheme.h"
 
 #include "FindChild.h"
 
@@ -202,10 +200,8 @@ class LooksDialogsTest : public QObject {
     QCOMPARE(move->icon(0).cacheKey(), SoundsDialog::SetMark().cacheKey());
 
     auto* text = Get<QLineEdit>(dlg, "Text1");
-    auto* browse = Get<QPushButton>(dlg, "cmdBrowse");
-    auto* play = Get<QPushButton>(dlg, "cmdPlay");
-    auto* apply = Get<QPushButton>(dlg, "cmdApply");
-    auto* remove = Get<QPushButton>(dlg, "cmdRemove");
+    auto *browse = Get<QPushButton>(dlg, "cmdBrowse"), *play = Get<QPushButton>(dlg, "cmdPlay");
+    auto *apply = Get<QPushButton>(dlg, "cmdApply"), *remove = Get<QPushButton>(dlg, "cmdRemove");
     QVERIFY(!apply->isEnabled() && !play->isEnabled() && !remove->isEnabled());
     tree->setCurrentItem(move);
     QVERIFY(browse->isEnabled() && play->isEnabled() && remove->isEnabled());

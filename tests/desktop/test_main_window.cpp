@@ -1,6 +1,5 @@
 #include <QAction>
 #include <QGraphicsItem>
-#include <QGraphicsView>
 #include <QToolBar>
 #include <QtTest>
 
@@ -62,8 +61,7 @@ class TestMainWindow : public QObject {
 
   void enablingFollowsTheGame() {
     // Nothing replays at start: Stop is grey in the menu and on the toolbar.
-    QVERIFY(!w_->Action("Stop")->isEnabled());
-    QVERIFY(!ToolbarItem("Stop")->isEnabled());
+    QVERIFY(!w_->Action("Stop")->isEnabled() && !ToolbarItem("Stop")->isEnabled());
     for (const char* key : {"Restart", "Save", "Pause", "Close", "Undo", "AddFav"})
       QVERIFY2(!w_->Action(key)->isEnabled(), key);
     for (const char* key : {"New", "Select", "Open"}) QVERIFY2(w_->Action(key)->isEnabled(), key);
@@ -188,13 +186,6 @@ class TestMainWindow : public QObject {
     QSKIP("no deal with an open Ace");
   }
 
-  void theTableFillsTheWindowsWidth() {
-    Deal(1);
-    w_->view().FitTable();
-    const QRect stock = w_->view().mapFromScene(QRectF(0, 0, 12615, 10)).boundingRect();
-    QVERIFY(qAbs(stock.width() - viewport()->width()) <= 2);
-  }
-
   // Every card's sprite stands where its place says, after a deal and a replayed file alike.
   void everySpriteStandsAtItsPlace() {
     Deal(482913);
@@ -215,8 +206,11 @@ class TestMainWindow : public QObject {
     }
   }
 
-  void theStockTheTitleAndThePauseMark() {
+  void theTableFillsTheWidthAndTheStockTheTitleAndThePauseMark() {
     Deal(482913);
+    w_->view().FitTable();
+    const QRect table = w_->view().mapFromScene(QRectF(0, 0, 12615, 10)).boundingRect();
+    QVERIFY(qAbs(table.width() - viewport()->width()) <= 2);
     QTest::mouseClick(viewport(), Qt::LeftButton, {}, OnCard(app().cPlay.GetTopPicID(1, 0)));
     QCOMPARE(app().cEngine.GetTransID(), 10);  // a row, one card on each pile
     QCOMPARE(app().cPlay.GetTop(1, 0), 49);

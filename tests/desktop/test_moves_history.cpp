@@ -1,5 +1,4 @@
 // The Moves Manager and the Game History, driven as a user would.
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QGraphicsView>
 #include <QLabel>
@@ -8,17 +7,13 @@
 #include <QTest>
 #include <QTreeView>
 
-#include "FileCommands.h"
 #include "HistoryDialog.h"
-#include "JournalModel.h"
 #include "MainWindow.h"
 #include "QtSprites.h"
 #include "QuickMoveDialog.h"
 #include "TemporaryUserHome.h"
 #include "TestProgram.h"
-#include "engine/Pointer.h"
 #include "session/Commands.h"
-#include "settings/SettingKeys.h"
 #include "settings/Settings.h"
 
 #include "FindChild.h"

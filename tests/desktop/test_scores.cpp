@@ -32,7 +32,6 @@
 #include "TemporaryUserHome.h"
 #include "TestProgram.h"
 #include "scores/Players.h"
-#include "settings/SettingKeys.h"
 
 #include "FindChild.h"
 

@@ -1,5 +1,5 @@
 // Finding and starting a game: the selection, the number dialog and the favourites
-// dialogs, driven as a user would. QUORVALE_SCREENSHOTS=<folder> keeps what they showed.
+// dialogs, driven as a user would.
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -22,21 +22,14 @@
 #include "TestProgram.h"
 #include "lists/AutoSave.h"
 #include "lists/Favorites.h"
-#include "lists/Recent.h"
 #include "scores/Players.h"
-#include "session/Program.h"
 #include "settings/MemorySettingsStore.h"
-#include "settings/SettingKeys.h"
 
 #include "FindChild.h"
 
 using namespace qv;
 
 namespace {
-void Shoot(QWidget& w, const char* name) {
-  const QByteArray folder = qgetenv("QUORVALE_SCREENSHOTS");
-  if (!folder.isEmpty()) w.grab().save(QString(folder) + "/" + name + ".png");
-}
 QTreeWidgetItem* Node(QTreeWidget* tree, const QString& text) {
   const auto found = tree->findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
   if (found.isEmpty()) qFatal("no node %s", qPrintable(text));
@@ -84,7 +77,6 @@ class SelectDialogTest : public QObject {
       QCOMPARE(dlg.SelKey(), std::string("All"));
       QVERIFY(Blank(dlg));  // the root is chosen
       QCOMPARE(Get<QComboBox>(dlg, "imcPlayer")->currentText(), QString("Ann"));
-      Shoot(dlg, "dialog-select-blank");
       ClickCategory(dlg, "Save");
       ClickNode(dlg, "Scarab - 5 (0%)");
       QVERIFY(!Blank(dlg));
@@ -92,7 +84,6 @@ class SelectDialogTest : public QObject {
       QCOMPARE(Get<QListWidget>(dlg, "lvDet")->item(0)->text(), QString("Game Name :Scarab"));
       QCOMPARE(Get<QListWidget>(dlg, "lvSub")->count(), 6);
       QVERIFY(!Get<QLabel>(dlg, "PicPreview")->pixmap().isNull());
-      Shoot(dlg, "dialog-select-saved");
       ClickCategory(dlg, "Hot");  // empty: the blank panel, nothing of "Save" left chosen
       QVERIFY(Blank(dlg));
       QCOMPARE(dlg.SelItem(), std::string());
@@ -138,10 +129,6 @@ class SelectDialogTest : public QObject {
       SetCurPlayer(t->cRegistry, "Ann");
     }
     QCOMPARE(t->cGamePlay.GameName(), std::string("Plaza"));
-    SelectDialog fav(*t);
-    ClickCategory(fav, "Fav");
-    ClickNode(fav, "Plaza - 12");
-    Shoot(fav, "dialog-select-favorites");
   }
 
   void numberRefusalsAndAnAcceptedNumberAsTyped() {
@@ -156,7 +143,6 @@ class SelectDialogTest : public QObject {
       QCOMPARE(text->text(), QString("0"));
     }
     QCOMPARE(t.dialogs.shown, std::vector<std::string>(3, "Please enter a number between 0 and 999,999"));
-    Shoot(dlg, "dialog-number");
     Get<QComboBox>(dlg, "imcGames")->setCurrentText("Coral");
     text->setText(" 00999998");
     Get<QPushButton>(dlg, "cmdSelect")->click();
@@ -178,7 +164,6 @@ class SelectDialogTest : public QObject {
       QCOMPARE(Get<QLineEdit>(add, "txFav")->text(), QString("Spider - 7"));
       Get<QPushButton>(add, "cmdCreate")->click();
       QCOMPARE(Get<QTreeWidget>(add, "tvFav")->currentItem()->text(0), QString("Mine"));
-      Shoot(add, "dialog-add-favorites");
       Get<QPushButton>(add, "cmdOK")->click();
     }
     const std::string root = app.cData.FavFolder();
@@ -211,7 +196,6 @@ class SelectDialogTest : public QObject {
       tree->setCurrentItem(Node(tree, "Spider Seven"));
       Get<QComboBox>(org, "icFav")->setCurrentText("Box");
       Get<QPushButton>(org, "cmdMove")->click();
-      Shoot(org, "dialog-organize-favorites");
       tree->setCurrentItem(Node(tree, "Mine"));
       QCOMPARE(typing.asked, (QStringList{"Create a Folder", "Rename Game"}));
     }

@@ -1,24 +1,17 @@
 #include <QApplication>
-#include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QPainter>
-#include <QProgressDialog>
-#include <QTabWidget>
 #include <QtTest>
 #include <atomic>
 #include <thread>
 
 #include "MainWindow.h"
-#include "OptionsDialog.h"
 #include "QtSprites.h"
 #include "SolverIndicator.h"
 #include "TemporaryUserHome.h"
-#include "engine/Pointer.h"
 #include "session/Commands.h"
 #include "session/Program.h"
 #include "settings/MemorySettingsStore.h"
-#include "settings/SettingKeys.h"
 
 using namespace qv;
 
@@ -77,12 +70,6 @@ class TestSolverIndicator : public QObject {
     QVERIFY(!w_->menuBar()->cornerWidget()->isVisible());
   }
 
-  void theRealSolverFindsAWinnableDeal() {
-    app().cGamePlay.PlayNumber("Spider Single Suit", GameNo::Number(3));
-    QTRY_COMPARE_WITH_TIMEOUT(State(), QString("winnable"), 20000);
-    QCOMPARE(w_->menuBar()->cornerWidget()->objectName(), QString("SolverIndicator"));
-  }
-
   void newWinnableDealsANumberProvedWinnable() {
     app().cRegistry.Set(setting::SolverSeconds, 2);
     app().cGamePlay.PlayNumber("Spider Single Suit", GameNo::Number(1));
@@ -94,8 +81,11 @@ class TestSolverIndicator : public QObject {
     QCOMPARE(r.verdict, Verdict::Winnable);
   }
 
-  void backStaysWhenTheGameCanStillBeWon() {
+  // The real solver: the deal is shown winnable, and Back to Winnable stays where it is.
+  void theRealSolverFindsAWinnableDealAndBackStays() {
     app().cGamePlay.PlayNumber("Spider Single Suit", GameNo::Number(3));
+    QTRY_COMPARE_WITH_TIMEOUT(State(), QString("winnable"), 20000);
+    QCOMPARE(w_->menuBar()->cornerWidget()->objectName(), QString("SolverIndicator"));
     QVERIFY(!w_->Action("BackToWinnable")->isEnabled() || app().cEngine.UndoPossible());
     PressStock();
     w_->UpdateCommands();
@@ -114,67 +104,6 @@ class TestSolverIndicator : public QObject {
     w_->Action("BackToWinnable")->trigger();
     QCOMPARE(said, QString("The game can still be won from here."));
     QCOMPARE(app().cEngine.GetTransID(), before);
-  }
-
-  // With QUORVALE_SHOTS set to a folder: the indicator's four words, a hint and the
-  // Solver tab, as pictures for the documentation.
-  void screenshots() {
-    const QString dir = qEnvironmentVariable("QUORVALE_SHOTS");
-    if (dir.isEmpty()) QSKIP("QUORVALE_SHOTS is not set");
-    std::atomic<int> verdict{-1};
-    w_->solver().solve = [&](const TableCopy&, const SolverBudget&, std::stop_token stop) {
-      while (verdict < 0 && !stop.stop_requested()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
-      SolverResult r;
-      r.verdict = static_cast<Verdict>(verdict.load());
-      return r;
-    };
-    app().cGamePlay.PlayNumber("Spider", GameNo::Number(3));
-    const QRect strip(w_->width() - 240, 0, 240, w_->menuBar()->height() + 30);
-    QImage all(strip.width(), strip.height() * 4, QImage::Format_ARGB32);
-    QPainter painter(&all);
-    int row = 0;
-    for (Verdict v : {Verdict::Unknown, Verdict::Winnable, Verdict::Lost, Verdict::Unknown}) {
-      if (row > 0) {
-        verdict = static_cast<int>(v);
-        QTRY_COMPARE(State(), QString(VerdictName(v)));
-      } else {
-        QTRY_COMPARE(State(), QString("thinking"));
-      }
-      painter.drawImage(0, strip.height() * row++, w_->grab(strip).toImage());
-      if (row < 4) {
-        verdict = -1;
-        PressStock();
-        QTRY_COMPARE(State(), QString("thinking"));
-      }
-    }
-    painter.end();
-    QVERIFY(all.save(dir + "/solver-indicator.png"));
-    w_->solver().solve = SolveCopy;
-    app().cGamePlay.PlayNumber("Spider Single Suit", GameNo::Number(3));
-    QTimer::singleShot(500, [&] {
-      if (QWidget* box = QApplication::activeModalWidget()) {
-        box->grab().save(dir + "/solver-hint.png");
-        box->close();
-      }
-    });
-    ExecCommand(app(), "Hint");
-    // New Winnable Game's progress: Plaza's deals mostly take their whole second each.
-    app().cRegistry.Set(setting::SolverSeconds, 1);
-    w_->solver().solve = [](const TableCopy&, const SolverBudget&, std::stop_token) { return SolverResult{}; };
-    app().cGamePlay.PlayNumber("Plaza", GameNo::Number(1));
-    QTimer::singleShot(3500, [&] {
-      if (auto* progress = w_->findChild<QProgressDialog*>("frmNewWinnable")) {
-        progress->grab().save(dir + "/solver-new-winnable.png");
-        emit progress->canceled();  // as the Cancel button does
-      }
-    });
-    ExecCommand(app(), "NewWinnable");
-    OptionsDialog options(app(), w_.get());
-    auto* tabs = options.findChild<QTabWidget*>("SSTab1");
-    tabs->setCurrentIndex(tabs->count() - 1);
-    options.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&options));
-    QVERIFY(options.grab().save(dir + "/dialog-options-solver.png"));
   }
 };
 
