@@ -8,6 +8,7 @@
 
 #include "CliSurface.h"
 #include "ScoreCommands.h"
+#include "Solve.h"
 #include "LooksJson.h"
 #include "StateJson.h"
 #include "engine/Pointer.h"
@@ -19,6 +20,7 @@
 #include "session/HistoryReport.h"
 #include "session/Program.h"
 #include "session/StartUp.h"
+#include "solver/Hint.h"
 
 namespace qv {
 
@@ -131,6 +133,12 @@ CommandError ScriptRunner::Execute(const std::vector<std::string>& w, bool& fini
   } else if (cmd == "sounds") {
     out_ << JsonTexts(app_.recordedSound.events) << "\n";
     app_.recordedSound.events.clear();
+  } else if (cmd == "solve" || cmd == "hint") {
+    // The table as it lies, searched with the window's budget; nothing to say without a game.
+    if (!TableAtRest(app_)) return {};
+    const TableCopy copy = CopyTable(app_);
+    const SolverResult r = SolveCopy(copy, SolverBudgetOf(app_), {});
+    out_ << (cmd == "solve" ? "{" + ResultFields(r) + "}" : AdviceFor(copy, r).text) << "\n";
   } else if (cmd == "title") {
     app_.cGamePlay.Update_Title();
     out_ << app_.cGamePlay.Title() << "\n";

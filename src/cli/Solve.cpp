@@ -91,9 +91,7 @@ std::string Line(const std::string& numberJson, const Table& t, const cGames& g,
   std::ostringstream out;
   out << "{\"number\":" << numberJson;
   const SolverResult r = Solve(game, o.budget, {}, stopped);
-  out << ",\"verdict\":\"" << VerdictName(r.verdict) << "\",\"moves\":" << r.solution.size()
-      << ",\"positions\":" << r.positions << ",\"ms\":" << r.ms << ",\"peak_mb\":" << Fixed(r.peakMb, 1)
-      << ",\"limit\":" << JsonText(r.limit);
+  out << "," << ResultFields(r);
   if (o.solution && r.verdict == Verdict::Winnable) out << ",\"script\":" << ScriptOf(game, r.solution);
   if (!o.player) return out.str() + "}";
   // The player's view: the cards not yet seen could lie in any order; each sample has
@@ -121,6 +119,18 @@ std::string Line(const std::string& numberJson, const Table& t, const cGames& g,
       << ",\"high\":" << Fixed(high, 3);
   return out.str() + "}";
 }
+
+}  // namespace
+
+std::string ResultFields(const SolverResult& r) {
+  std::ostringstream out;
+  out << "\"verdict\":\"" << VerdictName(r.verdict) << "\",\"moves\":" << r.solution.size()
+      << ",\"positions\":" << r.positions << ",\"ms\":" << r.ms << ",\"peak_mb\":" << Fixed(r.peakMb, 1)
+      << ",\"limit\":" << JsonText(r.limit);
+  return out.str();
+}
+
+namespace {
 
 // Prints one line and tells whether anyone still reads them.
 bool Emit(const std::string& line) {

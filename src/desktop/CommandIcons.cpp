@@ -110,7 +110,7 @@ void Folder(QPainter& p, bool open) {
 
 // A small round badge at the lower right, set off by a white ring, that says what is done
 // to the main picture: add, organise, go.
-enum class Badge { Plus, List, Arrow, Cycle, Clock };
+enum class Badge { Plus, List, Arrow, Cycle, Clock, Check };
 
 void DrawBadge(QPainter& p, Badge kind, const QColor& colour) {
   const QPointF c(17.5, 17.5);
@@ -143,6 +143,11 @@ void DrawBadge(QPainter& p, Badge kind, const QColor& colour) {
       mark.moveTo(c.x() + 2.9, c.y() - 2.9);
       mark.lineTo(c.x() + 2.6, c.y() - 0.4);
       mark.lineTo(c.x() + 0.2, c.y() - 0.9);
+      break;
+    case Badge::Check:
+      mark.moveTo(c.x() - 2.8, c.y() + 0.2);
+      mark.lineTo(c.x() - 0.7, c.y() + 2.4);
+      mark.lineTo(c.x() + 3, c.y() - 2.4);
       break;
     case Badge::Clock:
       mark.moveTo(c.x(), c.y() - 3.2);
@@ -502,6 +507,25 @@ void IconQuestion(QPainter& p) {
   p.fillPath(Circle(QPointF(12, 13.8), 1.1), kBlue);
 }
 
+// A light bulb: a thought about the next move.
+void IconHint(QPainter& p) {
+  Shape(p, Circle(QPointF(12, 9.5), 6.5), kGold);
+  Shape(p, Rounded(QRectF(9, 15.5, 6, 5), 1), kPale);
+  Stroke(p, Polygon({QPointF(9, 18), QPointF(15, 18)}, false));
+  Stroke(p, Polygon({QPointF(12, 15.5), QPointF(12, 11), QPointF(10, 9)}, false), kPaper, 1.2);
+}
+
+// A deal that a search has proved can be won, and the way back to the last such table.
+void IconNewWinnable(QPainter& p) {
+  Card(p);
+  DrawBadge(p, Badge::Check, kGreen);
+}
+
+void IconBackToWinnable(QPainter& p) {
+  HookArrow(p, false);
+  DrawBadge(p, Badge::Check, kGreen);
+}
+
 using IconDrawing = void (*)(QPainter&);
 
 const QHash<QString, IconDrawing>& Drawings() {
@@ -518,7 +542,8 @@ const QHash<QString, IconDrawing>& Drawings() {
       {"Options", IconOptions},   {"Rules", IconRules},       {"Contents", IconContents},
       {"Recent", IconRecent},     {"Toolbar", IconToolbar},   {"Wizard", IconWizard},
       {"Editor", IconEditor},     {"FOLDER", IconFolder},     {"FILE", IconFile},
-      {"Q1", IconQuestion},
+      {"Q1", IconQuestion},       {"Hint", IconHint},         {"NewWinnable", IconNewWinnable},
+      {"BackToWinnable", IconBackToWinnable},
   };
   return drawings;
 }

@@ -54,6 +54,7 @@ MainWindow::MainWindow(ISettingsStore& store, QWidget* parent)
     view_->FitTable();
     app_->keeper.Tick();
     solver_->Tick();
+    view_->KeepOutline(PositionKey(*app_));
   });
   connect(&TimerOf(Timer::Time), &QTimer::timeout, this, [this] { app_->cGamePlay.Update_Title(); });
   connect(&TimerOf(Timer::Game), &QTimer::timeout, this, [this] { app_->cGamePlay.TickGame(); });

@@ -42,6 +42,10 @@ void SolverIndicator::Show(const QString& state) {
 
 QString SolverIndicator::State() const { return label_->text(); }
 
+std::optional<SolverResult> SolverIndicator::AnswerFor(uint64_t key) const {
+  return key == asked_ ? answer_ : std::nullopt;
+}
+
 void SolverIndicator::Tick() {
   if (!SolverIndicatorOn(app_)) {
     Stop();
@@ -57,6 +61,7 @@ void SolverIndicator::Tick() {
     return;
   }
   asked_ = key;
+  answer_.reset();
   stop_ = std::stop_source();
   running_ = true;
   Show(tr("thinking"));
@@ -68,6 +73,7 @@ void SolverIndicator::Finished() {
   // An answer for a position that is gone is of no use; the next tick asks again.
   if (!running_ || PositionKey(app_) != asked_) return;
   running_ = false;
+  answer_ = r;
   Show(tr(VerdictName(r.verdict)));
 }
 

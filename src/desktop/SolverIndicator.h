@@ -3,6 +3,7 @@
 #include <QFutureWatcher>
 #include <QObject>
 #include <functional>
+#include <optional>
 #include <stop_token>
 
 #include "solver/TableVerdict.h"
@@ -32,6 +33,8 @@ class SolverIndicator : public QObject {
   void Stop();
   // "thinking", "winnable", "lost", "unknown", or empty when there is nothing to tell.
   QString State() const;
+  // The answer found for the position of `key`, if the last search was of it and ended.
+  std::optional<SolverResult> AnswerFor(uint64_t key) const;
   // What searches a position; tests put a fake here.
   SolveFn solve = SolveCopy;
 
@@ -44,6 +47,7 @@ class SolverIndicator : public QObject {
   QFutureWatcher<SolverResult> watcher_;
   std::stop_source stop_;
   uint64_t asked_ = 0;  // the key of the position last handed over
+  std::optional<SolverResult> answer_;  // for asked_
   bool running_ = false;
 };
 

@@ -48,6 +48,32 @@ void TableView::ShowBackground(QtBackground* background) {
   background_->Resize(viewport()->size(), devicePixelRatioF());
 }
 
+void TableView::Outline(const QList<QRectF>& places, uint64_t key) {
+  outline_ = places;
+  outlineKey_ = key;
+  viewport()->update();
+}
+
+void TableView::KeepOutline(uint64_t key) {
+  if (!outline_.isEmpty() && key != outlineKey_) Outline({}, 0);
+}
+
+void TableView::drawForeground(QPainter* painter, const QRectF&) {
+  if (outline_.isEmpty()) return;
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  // A bright ring a few pixels wide whatever the zoom, set off by a dark edge.
+  const qreal px = 1.0 / std::max(transform().m11(), 1e-6);
+  for (const QRectF& r : outline_) {
+    const QRectF ring = r.adjusted(-3 * px, -3 * px, 3 * px, 3 * px);
+    painter->setPen(QPen(QColor(20, 20, 20, 160), 6 * px));
+    painter->drawRoundedRect(ring, 60, 60);
+    painter->setPen(QPen(QColor(255, 214, 0), 3 * px));
+    painter->drawRoundedRect(ring, 60, 60);
+  }
+  painter->restore();
+}
+
 void TableView::drawBackground(QPainter* painter, const QRectF& rect) {
   if (!background_) return QGraphicsView::drawBackground(painter, rect);
   // Sized here, so a move to a screen of another scale is followed as a resize is.

@@ -20,10 +20,16 @@ class TableView : public QGraphicsView {
   void ShowBackground(QtBackground* background);
   // Fits the zoom to the window and to the lowest card on the table.
   void FitTable();
+  // Rings the places of a hinted move, in twips, while the table stays in the position
+  // of `key`; KeepOutline takes them away once the table has changed.
+  void Outline(const QList<QRectF>& places, uint64_t key);
+  void KeepOutline(uint64_t key);
+  const QList<QRectF>& Outlined() const { return outline_; }
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
   void drawBackground(QPainter* painter, const QRectF& rect) override;
+  void drawForeground(QPainter* painter, const QRectF& rect) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -37,6 +43,8 @@ class TableView : public QGraphicsView {
   QtBackground* background_ = nullptr;
   int pressed_ = -1;  // the sprite the press went to; moves and the release follow it
   double zoom_ = 0;
+  QList<QRectF> outline_;
+  uint64_t outlineKey_ = 0;
 };
 
 }  // namespace qv

@@ -26,6 +26,7 @@
 #include "LogStatDialog.h"
 #include "CardPainter.h"
 #include "MainWindow.h"
+#include "HintCommand.h"
 #include "NewWinnable.h"
 #include "OptionsDialog.h"
 #include "OrgFavDialog.h"
@@ -103,6 +104,7 @@ void OpenProgramWindow(MainWindow& main, const QString& key) {
   else if (key == "Open") OpenGame(main);
   else if (key == "NewWinnable") NewWinnableGame(main);
   else if (key == "BackToWinnable") BackToWinnable(main);
+  else if (key == "Hint") ShowHint(main);
   else if (key == "Save") SaveGame(main);
   else if (key == "AutoSave") AutoSaveDialog(main.app(), &main).exec();
   else if (key == "OrgPend") PendingDialog(main.app(), &main).exec();

@@ -379,6 +379,11 @@ TEST_F(Cli, SolveGivesAWinThatRunReplaysAndRefusesBadArguments) {
   std::string script = "new \"Spider Single Suit\" 3\n";
   for (const Json& l : line["script"].items) script += l.text.substr(1, l.text.size() - 2) + "\n";
   EXPECT_EQ(Parse(Run(script + "show\n").out)["cards_left"].text, "0");
+  // run's solve and hint search the table as it lies: here, the deal's first move is known.
+  const Outcome asked = Run("new \"Spider Single Suit\" 3\nsolve\nhint\n");
+  const size_t cut = asked.out.find('\n');
+  EXPECT_EQ(Parse(asked.out.substr(0, cut + 1))["verdict"].text, "\"winnable\"") << asked.out;
+  EXPECT_TRUE(asked.out.substr(cut + 1).starts_with("Move the ")) << asked.out;
   const Outcome range = Tool("solve Spider 7 9 --budget 1 --player --samples 2");
   EXPECT_EQ(std::count(range.out.begin(), range.out.end(), '\n'), 3) << range.err;
   for (const char* bad : {"solve Spider 1 2 --budget 0", "solve Spider 1 2 --budget -5", "solve Spider 1 2 --budget x",

@@ -163,13 +163,25 @@ TEST(Solver, HintTellsTheNextMoveAndWhy) {
             "Move the Ace of Spades from pile 2 onto the 2 of Spades on pile 1: it completes a set");
   EXPECT_EQ(MoveSentence(g, g.Start(), {SolverMove::Drag, 0, 0, 3, 2}, false),
             "Move the 10 of Spades and the 8 cards on it from pile 1 to the empty pile 3: it keeps the game winnable");
+  // The window's Hint searches the table as it lies and moves nothing.
   test::TestProgram t;
   t.Deal("Spider Single Suit", 3);
   ASSERT_TRUE(CommandEnabled(*t, "Hint"));
   ExecCommand(*t, "Hint");
-  ASSERT_EQ(t.dialogs.shown.size(), 1u);
-  EXPECT_TRUE(t.dialogs.shown[0].find(": it ") != std::string::npos) << t.dialogs.shown[0];
-  EXPECT_EQ(t->cEngine.GetTransID(), 0);  // a hint moves nothing
+  EXPECT_EQ(t.window.opened.back(), "Hint");
+  const TableCopy copy = CopyTable(*t);
+  const HintAdvice won = AdviceFor(copy, SolveCopy(copy, {}, {}));
+  ASSERT_TRUE(won.move);
+  EXPECT_TRUE(won.text.starts_with("Move the ") && won.text.find(": it ") != std::string::npos) << won.text;
+  const HintAdvice guess = AdviceFor(copy, SolverResult{});
+  ASSERT_TRUE(guess.move);
+  EXPECT_TRUE(guess.text.starts_with("No win was found in the time given. A guess: ")) << guess.text;
+  SolverResult lost;
+  lost.verdict = Verdict::Lost;
+  const HintAdvice none = AdviceFor(copy, lost);
+  EXPECT_FALSE(none.move);
+  EXPECT_EQ(none.text, "This game can no longer be won from here: every position that can still be reached was searched.");
+  EXPECT_EQ(t->cEngine.GetTransID(), 0);
 }
 
 TEST(Solver, PilesHashAsAMultisetOnlyWithTheStockEmpty) {

@@ -1,3 +1,4 @@
+#include <QAbstractButton>
 #include <QApplication>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -8,6 +9,7 @@
 #include "MainWindow.h"
 #include "QtSprites.h"
 #include "SolverIndicator.h"
+#include "TableView.h"
 #include "TemporaryUserHome.h"
 #include "session/Commands.h"
 #include "session/Program.h"
@@ -26,6 +28,24 @@ class TestSolverIndicator : public QObject {
   Program& app() { return w_->app(); }
   QString State() { return w_->solver().State(); }
   void PressStock() { ClickCard(app(), app().cPlay.GetTopPicID(1, 0)); }
+
+  // Answers each message box as it comes, Yes where it offers one, and keeps its text;
+  // `whileOpen` runs while the box is up.
+  QStringList AnswerBoxes(const QString& command, const std::function<void()>& whileOpen = {}) {
+    QStringList said;
+    QTimer closer;
+    connect(&closer, &QTimer::timeout, [&] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (!box) return;
+      said << box->text();
+      if (whileOpen) whileOpen();
+      if (QAbstractButton* yes = box->button(QMessageBox::Yes)) yes->click();
+      else box->close();
+    });
+    closer.start(20);
+    w_->Action(command)->trigger();
+    return said;
+  }
 
  private slots:
   void init() {
@@ -70,6 +90,34 @@ class TestSolverIndicator : public QObject {
     QVERIFY(!w_->menuBar()->cornerWidget()->isVisible());
   }
 
+  // Hint takes the indicator's answer at once, rings the move on the table until the
+  // table changes; a lost game's hint offers Back, which then runs.
+  void hintRingsItsMoveAndALostOneOffersBack() {
+    app().cGamePlay.PlayNumber("Spider Single Suit", GameNo::Number(3));
+    QTRY_COMPARE_WITH_TIMEOUT(State(), QString("winnable"), 20000);
+    qsizetype ringed = 0;
+    const QStringList hint = AnswerBoxes("Hint", [&] { ringed = w_->view().Outlined().size(); });
+    QCOMPARE(hint.size(), 1);
+    QVERIFY2(hint[0].startsWith("Move the ") && hint[0].contains(": it "), qPrintable(hint[0]));
+    QCOMPARE(ringed, 2);  // the cards that go and where they go
+    QCOMPARE(w_->view().Outlined().size(), 2);
+    PressStock();
+    QTRY_COMPARE(w_->view().Outlined().size(), 0);
+
+    w_->solver().solve = [](const TableCopy&, const SolverBudget&, std::stop_token) {
+      SolverResult r;
+      r.verdict = Verdict::Lost;
+      return r;
+    };
+    PressStock();
+    QTRY_COMPARE(State(), QString("lost"));
+    const QStringList lost = AnswerBoxes("Hint");
+    QCOMPARE(lost.size(), 2);
+    QVERIFY(lost[0].startsWith("This game can no longer be won from here"));
+    QVERIFY(lost[0].endsWith("Go back to the last position from which the game can be won?"));
+    QCOMPARE(lost[1], QString("The game can still be won from here."));  // Back, with the real solver
+  }
+
   void newWinnableDealsANumberProvedWinnable() {
     app().cRegistry.Set(setting::SolverSeconds, 2);
     app().cGamePlay.PlayNumber("Spider Single Suit", GameNo::Number(1));
@@ -92,17 +140,7 @@ class TestSolverIndicator : public QObject {
     QVERIFY(w_->Action("BackToWinnable")->isEnabled());
     const int before = app().cEngine.GetTransID();
     // The answer comes in a message box once the search is done, whenever that is.
-    QString said;
-    QTimer closer;
-    connect(&closer, &QTimer::timeout, [&] {
-      if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-        said = box->text();
-        box->close();
-      }
-    });
-    closer.start(20);
-    w_->Action("BackToWinnable")->trigger();
-    QCOMPARE(said, QString("The game can still be won from here."));
+    QCOMPARE(AnswerBoxes("BackToWinnable"), QStringList{"The game can still be won from here."});
     QCOMPARE(app().cEngine.GetTransID(), before);
   }
 };

@@ -108,6 +108,9 @@ const std::vector<ToolbarButtonDef>& ToolbarLayout() {
       {0, "Sep12", "", 0, ""},
       {29, "Rules", "Rules", 1, "Rules"},
       {30, "Contents", "Help Contents", 0, "Help Contents"},
+      {0, "Sep13", "", 0, ""},
+      {31, "Hint", "Hint", 1, "Hint"},
+      {32, "NewWinnable", "New Winnable Game", 0, "New Winnable Game"},
   };
   return layout;
 }

@@ -24,7 +24,7 @@ struct MenuDef {
 // The menu bar, in its order. Every key but Recent, which opens a sub-menu, is a command.
 const std::vector<MenuDef>& MainMenus();
 
-// One customisable toolbar button (ids 1 to 30), or Editor and Wizard, which always show.
+// One customisable toolbar button (ids 1 to 32), or Editor and Wizard, which always show.
 struct ToolbarButtonDef {
   int id;               // 0 for Editor and Wizard
   const char* key;
@@ -35,8 +35,8 @@ struct ToolbarButtonDef {
 
 // The toolbar from left to right; a separator is a button whose key starts with "Sep".
 const std::vector<ToolbarButtonDef>& ToolbarLayout();
-// The 30 customisable buttons by id, 1 to 30.
+// The customisable buttons by id, 1 to 32.
 const ToolbarButtonDef& ToolbarButton(int id);
-constexpr int kToolbarButtons = 30;
+constexpr int kToolbarButtons = 32;
 
 }  // namespace qv

@@ -6,7 +6,6 @@
 #include "session/CommandTable.h"
 #include "session/Program.h"
 #include "settings/SettingKeys.h"
-#include "solver/Hint.h"
 
 namespace qv {
 
@@ -66,8 +65,8 @@ void ExecCommand(Program& app, const std::string& key) {
   StopReplay(app);
   if (key == "Exit") return app.surface.window.CloseMain();
   if (key == "Stop" || key == "Recent") return;
-  // A hint changes nothing on the table and shows a message: no step is held for it.
-  if (key == "Hint") return ShowHint(app);
+  // A hint changes nothing on the table: no step is held while it searches.
+  if (key == "Hint") return app.surface.window.OpenWindow(key);
   {
     // Windows open outside the step: a stop while one is open need not wait for it.
     Motion::Step step(app.motion);

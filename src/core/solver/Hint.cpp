@@ -1,17 +1,8 @@
 #include "solver/Hint.h"
 
-#include <algorithm>
-#include <optional>
-
-#include "session/Program.h"
-#include "solver/Solver.h"
-#include "solver/TableVerdict.h"
-
 namespace qv {
 
 namespace {
-
-constexpr int64_t kHintMs = 3000;  // a hint is waited for: it gets a few seconds at most
 
 std::string CardName(const CardRec& c) {
   static const char* const kRanks[] = {"Ace", "2", "3", "4", "5", "6", "7", "8", "9", "10", "Jack", "Queen", "King"};
@@ -65,24 +56,21 @@ std::string MoveSentence(const SolverGame& g, const SolverPosition& p, const Sol
   return text + (guess ? ": the most promising move found" : ": it keeps the game winnable");
 }
 
-void ShowHint(Program& app) {
-  if (!TableAtRest(app)) return;
-  const TableCopy copy = CopyTable(app);
+HintAdvice AdviceFor(const TableCopy& copy, const SolverResult& r) {
   const SolverGame game(copy.table, copy.games, copy.room);
-  SolverBudget budget = SolverBudgetOf(app);
-  budget.ms = std::min(budget.ms, kHintMs);
-  const SolverResult r = Solve(game, budget);
+  HintAdvice a;
+  a.verdict = r.verdict;
   if (r.verdict == Verdict::Winnable && !r.solution.empty()) {
-    app.MsgBox(MoveSentence(game, game.Start(), r.solution.front(), false) + ".", MsgStyle::Information);
+    a.move = r.solution.front();
+    a.text = MoveSentence(game, game.Start(), *a.move, false) + ".";
   } else if (r.verdict == Verdict::Lost) {
-    app.MsgBox("This game can no longer be won from here: every position that can still be reached was searched.",
-               MsgStyle::Information);
+    a.text = "This game can no longer be won from here: every position that can still be reached was searched.";
+  } else if ((a.move = BestMove(game, game.Start()))) {
+    a.text = "No win was found in the time given. A guess: " + MoveSentence(game, game.Start(), *a.move, true) + ".";
   } else {
-    const std::optional<SolverMove> guess = BestMove(game, game.Start());
-    app.MsgBox(guess ? "No win was found in the time given. A guess: " + MoveSentence(game, game.Start(), *guess, true) + "."
-                     : "No win was found in the time given.",
-               MsgStyle::Information);
+    a.text = "No win was found in the time given.";
   }
+  return a;
 }
 
 }  // namespace qv

@@ -5,36 +5,14 @@
 #include <queue>
 
 #include "solver/PositionTable.h"
+#include "solver/Progress.h"
+#include "solver/RowByRow.h"
 
 namespace qv {
 
 namespace {
 
-// How far a position has come: sets out above all, then cards turned up, piles emptied
-// and cards lying on a card they may move on with; a card dealt from the Stock costs a little,
-// so rows come when the table has nothing better.
-int Progress(const SolverGame& g, const SolverPosition& p) {
-  const MoveRules& r = g.Rules();
-  // A card double-clicked home alone (an Ace, mostly) keeps its set from ever leaving.
-  const int home = p.OnFoundations();
-  int score = 1300 * (home / kSetCards) - 150 * (home % kSetCards) + 10 * p.stock;
-  int i = 0;
-  for (int s = 0; s < r.Piles; ++s) {
-    if (p.len[s] == 0) score += 60;
-    for (int q = 0; q < p.len[s]; ++q, ++i) {
-      const CardRec& c = g.Value(p.cards[i]);
-      if (!c.FaceMode) {
-        score -= 100;
-      } else if (q > 0) {
-        const CardRec& under = g.Value(p.cards[i - 1]);
-        if (under.FaceMode && InOrder(under, c, r.MultiOrder, r.AK)) score += 12;
-      }
-    }
-  }
-  return score;
-}
-
-enum class Mode { Dive, Narrow, Whole };
+enum class Mode { Dive, Rows, Whole };
 
 // A position waiting to be looked at: reached from an expanded one by one move.
 struct Open {
@@ -54,9 +32,9 @@ struct Expanded {
 
 class Search {
  public:
-  // A narrow search takes only the moves that make progress (and rows): quick to find
-  // most wins, but its running out proves nothing. A dive goes depth first with the best
-  // move first and a row last; the others go best first.
+  // A dive goes depth first, the best move first and a row last, and takes only the moves
+  // that make progress (and rows): quick to find easy wins, but its running out proves
+  // nothing. The whole search goes best first over every move.
   Search(const SolverGame& g, const SolverBudget& b, std::stop_token stop, const std::function<bool()>& hook,
          Mode mode)
       : g_(g), budget_(b), stop_(std::move(stop)), hook_(hook), mode_(mode), narrow_(mode != Mode::Whole),
@@ -163,6 +141,26 @@ SolverResult Search::Run() {
   }
 }
 
+// The row-by-row search, told as a search result: a win only after its replay.
+SolverResult RunRows(const SolverGame& g, const SolverBudget& b, std::stop_token stop,
+                     const std::function<bool()>& hook) {
+  const auto start = std::chrono::steady_clock::now();
+  SearchLimits limits{start + std::chrono::milliseconds(b.ms), b.positions, static_cast<size_t>(b.mb) << 20,
+                      std::move(stop), &hook};
+  const RowByRowResult rows = WinRowByRow(g, limits);
+  SolverResult r;
+  r.positions = rows.positions;
+  r.ms = std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start).count();
+  r.peakMb = static_cast<double>(rows.peakBytes) / (1 << 20);
+  if (rows.won && ReplaysToWin(g, rows.moves)) {
+    r.verdict = Verdict::Winnable;
+    r.solution = rows.moves;
+  } else {
+    r.limit = rows.won ? "replay" : rows.limit;
+  }
+  return r;
+}
+
 }  // namespace
 
 const char* VerdictName(Verdict v) {
@@ -175,11 +173,12 @@ const char* VerdictName(Verdict v) {
 
 SolverResult Solve(const SolverGame& game, const SolverBudget& budget, std::stop_token stop,
                    const std::function<bool()>& nodeHook) {
-  // Quick narrow searches first, each with a share of the time; when they run dry or out
-  // of their share, the whole search with the time left decides.
+  // A quick dive, then the row-by-row search, each with a share of the time; when they
+  // run dry or out of their share, the whole search with the time left decides, and only
+  // it can prove a game lost.
   const auto start = std::chrono::steady_clock::now();
   SolverResult total;
-  const std::pair<Mode, int> stages[] = {{Mode::Dive, 3}, {Mode::Narrow, 50}, {Mode::Whole, 100}};
+  const std::pair<Mode, int> stages[] = {{Mode::Dive, 5}, {Mode::Rows, 90}, {Mode::Whole, 100}};
   for (const auto& [mode, percent] : stages) {
     const int64_t spent =
         std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start).count();
@@ -187,12 +186,13 @@ SolverResult Solve(const SolverGame& game, const SolverBudget& budget, std::stop
     b.ms = mode == Mode::Whole ? budget.ms - spent : std::max<int64_t>(1, budget.ms * percent / 100);
     if (budget.ms <= 0) b.ms = 0;
     if (b.positions > 0) b.positions = std::max<int64_t>(1, budget.positions - total.positions);
-    SolverResult r = Search(game, b, stop, nodeHook, mode).Run();
+    SolverResult r = mode == Mode::Rows ? RunRows(game, b, stop, nodeHook) : Search(game, b, stop, nodeHook, mode).Run();
     r.positions += total.positions - (total.positions > 0);  // the start counts once
     r.ms = spent + r.ms;
     r.peakMb = std::max(r.peakMb, total.peakMb);
     total = r;
-    const bool ranDry = mode != Mode::Whole && (r.verdict == Verdict::Lost || r.limit == "time");
+    // A stage that ran dry or out of its time hands over; a win, a stop or full memory ends it.
+    const bool ranDry = mode != Mode::Whole && r.verdict != Verdict::Winnable && (r.limit.empty() || r.limit == "time");
     if (!ranDry) break;
   }
   return total;
