@@ -26,8 +26,9 @@ class RowSearch {
   // Did the last pass leave anything out? When not, a wider one would find nothing new.
   bool Cut() const { return cut_; }
 
-  bool Pass(int64_t width, int spare) {
+  bool Pass(int64_t width, const ProgressWeights& weights, int spare) {
     width_ = width;
+    weights_ = weights;
     spare_ = spare;
     cut_ = false;
     out_.moves.clear();
@@ -45,6 +46,7 @@ class RowSearch {
   const SearchLimits& limits_;
   RowByRowResult& out_;
   int64_t width_ = 0;
+  ProgressWeights weights_;
   int spare_ = 0;  // tables not the best that a pass may still deal from
   bool cut_ = false;
   size_t heldBytes_ = 0;  // by the rows the search came through
@@ -71,7 +73,7 @@ bool RowSearch::Row(const SolverPosition& root, std::vector<SolverMove>& path) {
   std::priority_queue<std::pair<int, uint32_t>> open;
   PositionTable seen(limits_.bytes / 4);
   seen.Visit(g_.Hash(root), root.room);
-  open.push({Progress(g_, root), 0});
+  open.push({Progress(g_, root, weights_), 0});
   // The last row's table must be won by its moves alone, so it gets a longer look.
   const int64_t width = root.stock == 0 ? width_ * 4 : width_;
   std::vector<std::pair<int, uint32_t>> dealable;
@@ -93,7 +95,7 @@ bool RowSearch::Row(const SolverPosition& root, std::vector<SolverMove>& path) {
         PathTo(nodes, id, path);
         return true;
       }
-      open.push({Progress(g_, next), id});
+      open.push({Progress(g_, next, weights_), id});
     }
     const size_t bytes = heldBytes_ + seen.Bytes() + nodes.capacity() * sizeof(Node);
     out_.peakBytes = std::max(out_.peakBytes, bytes);
@@ -144,13 +146,18 @@ bool RowSearch::DealFromBest(const std::vector<Node>& nodes, std::vector<std::pa
 RowByRowResult WinRowByRow(const SolverGame& g, const SearchLimits& limits) {
   RowByRowResult out;
   RowSearch search(g, limits, out);
+  // Searches that value tables differently get stuck in different places: at each width
+  // the passes take turns with a few ways of counting progress.
+  constexpr ProgressWeights turns[] = {{120, 100, 12}, {0, 100, 12}, {60, 300, 12}};
   for (int64_t width = 200;; width *= 3) {
-    for (int spare = 0; spare <= 2; ++spare) {
-      if (search.Pass(width, spare)) {
-        out.won = true;
-        return out;
+    for (const ProgressWeights& weights : turns) {
+      for (int spare = 0; spare <= 2; ++spare) {
+        if (search.Pass(width, weights, spare)) {
+          out.won = true;
+          return out;
+        }
+        if (!out.limit.empty() || !search.Cut()) return out;
       }
-      if (!out.limit.empty() || !search.Cut()) return out;
     }
   }
 }

@@ -173,17 +173,19 @@ const char* VerdictName(Verdict v) {
 
 SolverResult Solve(const SolverGame& game, const SolverBudget& budget, std::stop_token stop,
                    const std::function<bool()>& nodeHook) {
-  // A quick dive, then the row-by-row search, each with a share of the time; when they
-  // run dry or out of their share, the whole search with the time left decides, and only
-  // it can prove a game lost.
+  // A quick dive and a short whole search (which proves small games lost), then the
+  // row-by-row search, each with a share of the time; when they run dry or out of their
+  // share, the whole search with the time left decides. Only a whole search proves a
+  // game lost.
   const auto start = std::chrono::steady_clock::now();
   SolverResult total;
-  const std::pair<Mode, int> stages[] = {{Mode::Dive, 5}, {Mode::Rows, 90}, {Mode::Whole, 100}};
+  const std::pair<Mode, int> stages[] = {{Mode::Dive, 5}, {Mode::Whole, 2}, {Mode::Rows, 90}, {Mode::Whole, 100}};
   for (const auto& [mode, percent] : stages) {
     const int64_t spent =
         std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - start).count();
+    const bool last = &mode == &std::end(stages)[-1].first;
     SolverBudget b = budget;
-    b.ms = mode == Mode::Whole ? budget.ms - spent : std::max<int64_t>(1, budget.ms * percent / 100);
+    b.ms = last ? budget.ms - spent : std::max<int64_t>(1, budget.ms * percent / 100);
     if (budget.ms <= 0) b.ms = 0;
     if (b.positions > 0) b.positions = std::max<int64_t>(1, budget.positions - total.positions);
     SolverResult r = mode == Mode::Rows ? RunRows(game, b, stop, nodeHook) : Search(game, b, stop, nodeHook, mode).Run();
@@ -191,9 +193,10 @@ SolverResult Solve(const SolverGame& game, const SolverBudget& budget, std::stop
     r.ms = spent + r.ms;
     r.peakMb = std::max(r.peakMb, total.peakMb);
     total = r;
-    // A stage that ran dry or out of its time hands over; a win, a stop or full memory ends it.
-    const bool ranDry = mode != Mode::Whole && r.verdict != Verdict::Winnable && (r.limit.empty() || r.limit == "time");
-    if (!ranDry) break;
+    // A stage that ran dry or out of its time hands over; a win, a proof, a stop or full
+    // memory ends the search.
+    const bool proved = r.verdict == Verdict::Winnable || (mode == Mode::Whole && r.verdict == Verdict::Lost);
+    if (last || proved || !(r.limit.empty() || r.limit == "time")) break;
   }
   return total;
 }
