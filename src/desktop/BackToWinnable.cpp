@@ -20,6 +20,7 @@ void BackToWinnable(MainWindow& main) {
   const uint64_t before = PositionKey(app);
   std::stop_source stop;
   std::atomic<int> asked{0};
+  std::atomic<bool> dealLost{false};  // the deal itself proved lost: there is nothing to go back to
   const int found = RunWithProgress(
       main, "Looking for the last position from which the game can be won...", "frmBackToWinnable", 0, stop, asked,
       [&, budget = SolverBudgetOf(app)] {
@@ -27,11 +28,17 @@ void BackToWinnable(MainWindow& main) {
             at,
             [&](const TableCopy& c) {
               ++asked;
-              return SolveCopy(c, budget, stop.get_token()).verdict;
+              const Verdict v = SolveCopy(c, budget, stop.get_token()).verdict;
+              if (&c == &at.front() && v == Verdict::Lost) dealLost = true;
+              return v;
             },
             stop.get_token());
       });
   if (stop.stop_requested()) return;
+  if (found < 0 && dealLost) {
+    app.MsgBox("This game cannot be won: it was lost from the deal.", MsgStyle::Information);
+    return;
+  }
   if (found < 0) {
     app.MsgBox("No earlier position of this game was proved winnable in the time allowed for each.",
                MsgStyle::Information);

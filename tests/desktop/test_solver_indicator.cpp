@@ -11,8 +11,10 @@
 #include "SolverIndicator.h"
 #include "TableView.h"
 #include "TemporaryUserHome.h"
+#include "TestProgram.h"
 #include "session/Commands.h"
 #include "session/Program.h"
+#include "session/SavedGameFile.h"
 #include "settings/MemorySettingsStore.h"
 
 using namespace qv;
@@ -104,18 +106,22 @@ class TestSolverIndicator : public QObject {
     PressStock();
     QTRY_COMPARE(w_->view().Outlined().size(), 0);
 
-    w_->solver().solve = [](const TableCopy&, const SolverBudget&, std::stop_token) {
-      SolverResult r;
-      r.verdict = Verdict::Lost;
-      return r;
-    };
-    PressStock();
+    // A game that is really lost: one suit laid in alternate colours, Kings alone on
+    // spaces. The real search proves it and Back has no earlier position to go to.
+    GameHeader h;
+    h.GameName = "Alternating Spades";
+    h.GameNo = GameNo::Number(5);
+    h.HPiles = 10, h.HOrder = 1, h.HSpace = 12, h.HMulti = 1, h.Suits = 0, h.MOrder = 0;
+    const std::string path = (home_.path() + "/lost.vq0").toStdString();
+    test::WriteFile(path, FormatSavedGame(h, {}));
+    QVERIFY(app().cGamePlay.PlayFile(path, false));
     QTRY_COMPARE(State(), QString("lost"));
     const QStringList lost = AnswerBoxes("Hint");
     QCOMPARE(lost.size(), 2);
     QVERIFY(lost[0].startsWith("This game can no longer be won from here"));
     QVERIFY(lost[0].endsWith("Go back to the last position from which the game can be won?"));
-    QCOMPARE(lost[1], QString("The game can still be won from here."));  // Back, with the real solver
+    QCOMPARE(w_->view().Outlined().size(), 0);  // nothing to ring
+    QCOMPARE(lost[1], QString("This game cannot be won: it was lost from the deal."));
   }
 
   void newWinnableDealsANumberProvedWinnable() {
