@@ -18,10 +18,12 @@
 #include <QThread>
 #include <QWidget>
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "MainWindow.h"
@@ -33,6 +35,7 @@
 #include "session/Program.h"
 #include "session/SavedGameFile.h"
 #include "settings/MemorySettingsStore.h"
+#include "solver/TableVerdict.h"
 
 namespace qv {
 namespace {
@@ -206,6 +209,23 @@ void BM_DragFrameEventLoop(benchmark::State& state) {
   RunDrag(state, true, [](DragTable&) { QCoreApplication::processEvents(); });
 }
 
+// The drag's frames while a worker searches a hard deal, as the indicator's search goes on
+// while cards hang on the pointer (the position has not changed yet). On two cores the
+// search takes one; the frames must not wait for it.
+void BM_DragFrameWhileSolving(benchmark::State& state) {
+  std::atomic<int64_t> positions{0};
+  std::jthread solver([&](std::stop_token stop) {
+    test::TestProgram game;
+    game.Deal("Spider", 2);
+    const TableCopy copy = CopyTable(*game);
+    while (!stop.stop_requested()) positions += SolveCopy(copy, {600000, 512, 0}, stop).positions;
+  });
+  RunDrag(state, false, [](DragTable& t) { t.w.view().viewport()->repaint(); });
+  solver.request_stop();
+  solver.join();
+  state.counters["solver_positions"] = static_cast<double>(positions.load());
+}
+
 // The same twelve cards moved together as twelve separate sprites, each by the sprite
 // interface, and the whole table painted: a twelve-card frame with every card drawn at a
 // card's size, for comparison with the carried group.
@@ -245,6 +265,7 @@ void BM_TwelveSpritesFrameRepaint(benchmark::State& state) {
 
 BENCHMARK(BM_DragFrameRepaint)->ArgName("cards")->Arg(12)->Arg(1)->UseRealTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(BM_DragFrameEventLoop)->ArgName("cards")->Arg(12)->Arg(1)->UseRealTime()->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_DragFrameWhileSolving)->ArgName("cards")->Arg(12)->UseRealTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(BM_TwelveSpritesFrameRepaint)->UseRealTime()->Unit(benchmark::kMicrosecond);
 
 // The offscreen platform says at every window it cannot pass size hints on; the rest of
