@@ -23,14 +23,8 @@ TEST(SessionText, FormatSecondsAndStatus) {
   for (const auto& [status, text] : {std::pair{1, "Won"}, {0, "Lost"}, {-1, "Lost"}}) EXPECT_EQ(StatusText(status), text);
 }
 
+// Ten moves in five minutes, -105, is worked through by the command-line tests.
 TEST(SessionScore, WorkedScoresRoundHalvesToEven) {
-  test::TestProgram t;
-  t.Deal("Spider", 9);
-  auto& gp = t->cGamePlay;
-  test::DealRows(t, 1);
-  gp.Time(300);
-  EXPECT_EQ(gp.Score(), -105);  // 0 - (100 + 5)
-
   test::TestProgram any;
   test::PlayWithRules(any, kAnyCard);
   Shuttle(any, 0, 1);
@@ -46,18 +40,6 @@ TEST(SessionScore, WorkedScoresRoundHalvesToEven) {
   EXPECT_EQ(any->cGamePlay.Score(), -2);  // -(1 + 1)
   any->cGamePlay.Time(2000000000);
   EXPECT_EQ(any->cGamePlay.Score(), -32768);  // saturates, never wraps
-}
-
-TEST(SessionScore, PercentageAndCardsLeft) {
-  test::TestProgram t;
-  EXPECT_EQ(t->cGamePlay.Percentage(), 0);  // no game: nothing divides by zero
-  t.Deal("Spider", 9);
-  EXPECT_EQ(t->cGamePlay.Percentage(), 0);
-  EXPECT_EQ(t->cGamePlay.CardsLeft(), 104);
-  test::PlayWithRules(t, kAnyCard);
-  ASSERT_TRUE(test::CompleteASet(t));
-  EXPECT_EQ(t->cGamePlay.Percentage(), 12);  // 12.5 goes to the even 12
-  EXPECT_EQ(t->cGamePlay.CardsLeft(), 91);
 }
 
 // A second start-up makes no second player; the title names the first.
@@ -83,34 +65,29 @@ TEST(SessionTitle, WorkedTitleWithEveryReadout) {
   EXPECT_EQ(gp.Title(), "Quorvale 6.0");
 }
 
-TEST(SessionStart, ANewDealRunsTheClockAndRemembersTheGame) {
+struct SessionStart : ::testing::Test {
   test::TestProgram t;
-  auto& gp = t->cGamePlay;
-  EXPECT_EQ(gp.Game_Status(), 0);
+  cGamePlay& gp = t->cGamePlay;
+};
+
+TEST_F(SessionStart, ANewDealRunsTheClockAndRemembersTheGame) {
   t.Deal("Coral", 77);
-  EXPECT_EQ(gp.Game_Status(), 1);
-  EXPECT_TRUE(gp.Game_Running());
-  EXPECT_TRUE(t.window.TimerEnabled(Timer::Game));
-  EXPECT_EQ(gp.LastGName(), "Coral");
-  EXPECT_EQ(t->cCustom.MOrder, 2);
+  EXPECT_EQ(std::tuple(gp.Game_Status(), gp.Game_Running(), t.window.TimerEnabled(Timer::Game), gp.LastGName(),
+                       t->cCustom.MOrder),
+            std::tuple(1, true, true, "Coral", 2));
   gp.TickGame();
-  gp.TickGame();
-  EXPECT_EQ(gp.Time(), 2);
   gp.PauseGame(true);
-  EXPECT_FALSE(t.window.TimerEnabled(Timer::Game));
-  EXPECT_TRUE(t.window.pausedShown);
+  EXPECT_EQ(std::tuple(t.window.TimerEnabled(Timer::Game), t.window.pausedShown), std::tuple(false, true));
   gp.TickGame();
-  EXPECT_EQ(gp.Time(), 2);
-  // Dealing again gives up the game on the table: a new game, clock at 0, no pause.
+  EXPECT_EQ(gp.Time(), 1);
+  // Dealing again gives up the game on the table: a new game, clock at 0, no pause; the
+  // button and the check mark follow.
   gp.Restart();
-  EXPECT_EQ(gp.Time(), 0);
-  EXPECT_FALSE(gp.PauseStatus());
-  EXPECT_FALSE(t.window.pausedShown);  // the button and the check mark follow
-  EXPECT_EQ(t->cEngine.GetTransTop(), 0);
+  EXPECT_EQ(std::tuple(gp.Time(), gp.PauseStatus(), t.window.pausedShown, t->cEngine.GetTransTop()),
+            std::tuple(0, false, false, 0));
 }
 
-TEST(SessionStart, UnknownGamesAreRefusedAndTheTableStays) {
-  test::TestProgram t;
+TEST_F(SessionStart, UnknownGamesAreRefusedAndTheTableStays) {
   t.Deal("Spider", 5);
   test::DealRows(t, 1);
   const auto before = test::Snapshot(*t.app);
@@ -119,24 +96,19 @@ TEST(SessionStart, UnknownGamesAreRefusedAndTheTableStays) {
   EXPECT_NE(t.dialogs.shown[0].find("Spyder"), std::string::npos);
   EXPECT_EQ(t.dialogs.titles[0], "Quorvale 6.0");
   EXPECT_EQ(test::Snapshot(*t.app), before);
-  EXPECT_EQ(t->cGamePlay.GameName(), "Spider");
-  EXPECT_EQ(t->cEngine.GetTransID(), 10);
-  EXPECT_TRUE(t->cGamePlay.Game_Running());
+  EXPECT_EQ(std::tuple(t->cGamePlay.GameName(), t->cEngine.GetTransID(), t->cGamePlay.Game_Running()),
+            std::tuple("Spider", 10, true));
 }
 
-TEST(SessionStart, RandomGamesUseTheLastGameAndTheRange) {
-  test::TestProgram t;
-  auto& gp = t->cGamePlay;
+TEST_F(SessionStart, RandomGamesUseTheLastGameAndTheRange) {
   ASSERT_TRUE(gp.PlayRandom());  // a first run has no last game
   EXPECT_EQ(gp.GameName(), "Spider");
   t->cGamePlay.PlayNumber("Scarab", GameNo::Number(3));
   t.settings.WriteInt("Options", "RangeIndex", 1);
   for (int i = 0; i < 50; ++i) {
     gp.PlayRandom();
-    EXPECT_EQ(gp.GameName(), "Scarab");
-    EXPECT_FALSE(gp.GameNo().IsTyped());
     const double n = gp.GameNo().Value();
-    EXPECT_TRUE(n >= 1 && n <= 9) << n;
+    EXPECT_TRUE(gp.GameName() == "Scarab" && !gp.GameNo().IsTyped() && n >= 1 && n <= 9) << gp.GameName() << n;
   }
   t.settings.WriteInt("Options", "RangeIndex", 15);
   gp.PlayRandom("Plaza");
@@ -144,13 +116,9 @@ TEST(SessionStart, RandomGamesUseTheLastGameAndTheRange) {
   EXPECT_LE(gp.GameNo().Text().size(), 15u);
 }
 
-TEST(SessionStart, RecentEntriesSplitAtTheLastDash) {
-  test::TestProgram t;
-  auto& gp = t->cGamePlay;
+TEST_F(SessionStart, RecentEntriesSplitAtTheLastDash) {
   ASSERT_TRUE(gp.PlayString("Spider Two Suit - 0042"));
-  EXPECT_EQ(gp.GameName(), "Spider Two Suit");
-  EXPECT_TRUE(gp.GameNo().IsTyped());
-  EXPECT_EQ(gp.GameNo().Text(), "0042");
+  EXPECT_EQ(std::tuple(gp.GameName(), gp.GameNo()), std::tuple("Spider Two Suit", GameNo::Typed("0042")));
   EXPECT_EQ(t->cPlay.table().Deck(), ShuffleDeck(104, 42));
   EXPECT_FALSE(gp.PlayString("Spider"));
   EXPECT_FALSE(gp.PlayString("Spider - x1"));
@@ -178,19 +146,18 @@ struct SessionFiles : ::testing::Test {
 
 TEST_F(SessionFiles, AnIncompleteGameComesBackRunningWhereItWas) {
   ASSERT_TRUE(gp.PlayFile(t.home.File("game.vq0"), true));
-  EXPECT_EQ(gp.Game_Status(), 1);
-  EXPECT_EQ(gp.Game_LoadingType(), 1);
-  EXPECT_EQ(gp.Time(), 95);
+  EXPECT_EQ(std::tuple(gp.Game_Status(), gp.Game_LoadingType(), gp.Time(), t->cEngine.GetTransID(), t.window.finishShown),
+            std::tuple(1, 1, 95, 20, 0));
   EXPECT_EQ(test::Snapshot(*t.app), saved);
-  EXPECT_EQ(t->cEngine.GetTransID(), 20);
-  EXPECT_EQ(t.window.finishShown, 0);
 }
 
 TEST_F(SessionFiles, AFinishedGameIsReplayedByTheForwardTimer) {
-  ASSERT_TRUE(gp.PlayFile(Copy("GAME.VQ1"), true));
-  // Status, timers and journal as loaded are checked with the saved-game files; here, what follows.
-  EXPECT_EQ(gp.Game_Status(), 2);
-  EXPECT_FALSE(gp.Game_Running());
+  EXPECT_FALSE(IsFinishedFileName("q1", ".vq1"));
+  ASSERT_TRUE(gp.PlayFile(Copy("GAME.VQ1"), true));  // the extension's case does not matter
+  // Twenty records to replay, none replayed yet; the forward timer runs, the game's does not.
+  EXPECT_EQ(std::tuple(gp.Game_Status(), t.window.TimerEnabled(Timer::Forward), t.window.TimerEnabled(Timer::Game),
+                       t->cEngine.GetTransTop(), t->cEngine.GetTransID(), gp.Game_Running()),
+            std::tuple(2, true, false, 20, 0, false));
   EXPECT_NE(gp.Title().find("] [Finished Game]"), std::string::npos);
   // A finished game keeps the score its file holds.
   EXPECT_EQ(gp.Score(), ReadGameHeader(t.home.File("GAME.VQ1"))->Score);
@@ -202,8 +169,7 @@ TEST_F(SessionFiles, AFinishedGameIsReplayedByTheForwardTimer) {
 TEST_F(SessionFiles, APendingGameGoesBackToItsFileWhenItEnds) {
   const std::string pending = Copy("pend.vq0");
   ASSERT_TRUE(gp.PlayPendFile(pending));
-  EXPECT_TRUE(std::filesystem::exists(pending));  // kept while its game is on the table
-  EXPECT_TRUE(gp.IsPending());
+  EXPECT_TRUE(std::filesystem::exists(pending) && gp.IsPending());  // kept while its game is on the table
   EXPECT_NE(gp.Title().find("[Pending List Game]"), std::string::npos);
   test::DealRows(t, 1);
   gp.EndGame(0, false);  // Close
@@ -229,8 +195,7 @@ TEST_F(SessionFiles, APendingGameThatCannotBeWrittenBackStays) {
   std::filesystem::remove(pending);
   std::filesystem::create_directory(pending);  // the old name is taken by a folder now
   EXPECT_FALSE(gp.EndGame(0, false));
-  EXPECT_EQ(gp.Game_Status(), 1);
-  EXPECT_EQ(t.dialogs.shown.size(), 1u);
+  EXPECT_EQ(std::tuple(gp.Game_Status(), t.dialogs.shown.size()), std::tuple(1, 1u));
   // Nor does a new deal throw it away.
   EXPECT_FALSE(gp.PlayNumber("Spider", GameNo::Number(1)));
   EXPECT_EQ(test::Snapshot(*t.app), saved);
@@ -244,40 +209,42 @@ TEST(SessionStop, UnloadKeepsARunningGameOnlyWhenItsFileIsWhole) {
   t.Deal("Spider Two Suit", 31);
   test::DealRows(t, 1);
   t->cGamePlay.Unload();
-  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 1);
-  EXPECT_EQ(ReadGameHeader(t->cData.UnFinFile())->Moves, 10);
+  EXPECT_EQ(std::tuple(t->cRegistry.Get(setting::UnFin), ReadGameHeader(t->cData.UnFinFile())->Moves), std::tuple(1, 10));
   EXPECT_EQ(t->cData.UnFinFile(), (t.home.Path() / "data" / "Velmarin Works" / "Quorvale 6.0" / "Unfin.vq0").string());
 
   test::TestProgram off;
   off.Deal("Spider", 31);
   off.settings.WriteInt("Options", "GameSave", 0);
   off->cGamePlay.Unload();
-  EXPECT_EQ(off->cRegistry.Get(setting::UnFin), 0);
-  EXPECT_FALSE(std::filesystem::exists(off->cData.UnFinFile()));
+  EXPECT_TRUE(off->cRegistry.Get(setting::UnFin) == 0 && !std::filesystem::exists(off->cData.UnFinFile()));
 
   test::TestProgram taken;
   taken.Deal("Spider", 31);
   std::filesystem::create_directories(taken->cData.UnFinFile());  // the name is taken by a folder
   taken->cGamePlay.Unload();
-  EXPECT_EQ(taken->cRegistry.Get(setting::UnFin), 0);
-  EXPECT_EQ(taken.dialogs.shown.size(), 1u);
+  EXPECT_EQ(std::tuple(taken->cRegistry.Get(setting::UnFin), taken.dialogs.shown.size()), std::tuple(0, 1u));
 }
 
 // With "Any Card" rules a foundation takes an Ace when empty and any card after it, so a
 // game is won by double-clicks alone, opening one foundation at a time. Piles stay below
 // thirteen cards, so no set leaves by itself meanwhile.
-TEST(SessionWin, TheLastCardOnTheFoundationsOpensTheFinishOnce) {
+TEST(SessionWin, PercentageAndCardsLeftFollowTheFoundationsAndTheLastCardOpensTheFinishOnce) {
   test::TestProgram t;
+  EXPECT_EQ(t->cGamePlay.Percentage(), 0);  // no game: nothing divides by zero
+  t.Deal("Spider", 9);
+  EXPECT_EQ(std::tuple(t->cGamePlay.Percentage(), t->cGamePlay.CardsLeft()), std::tuple(0, 104));
   test::PlayWithRules(t, kAnyCard);
-  ASSERT_TRUE(test::WinGame(t));
-  auto& play = t->cPlay;
-  EXPECT_EQ(t->cEngine.TotalGoalCards(), 104);
-  for (int f = 0; f < 8; ++f) EXPECT_EQ(play.GetTop(3, f), 12) << f;
-  EXPECT_EQ(t.window.finishShown, 1);
+  ASSERT_TRUE(test::CompleteASet(t));
+  EXPECT_EQ(std::tuple(t->cGamePlay.Percentage(), t->cGamePlay.CardsLeft()), std::tuple(12, 91));  // 12.5 to the even 12
+  test::TestProgram won;
+  test::PlayWithRules(won, kAnyCard);
+  ASSERT_TRUE(test::WinGame(won));
+  EXPECT_EQ(won->cEngine.TotalGoalCards(), 104);
+  for (int f = 0; f < 8; ++f) EXPECT_EQ(won->cPlay.GetTop(3, f), 12) << f;
   // The won game stays on the table, running, until the finish dialog ends it.
-  EXPECT_TRUE(t->cGamePlay.Game_Running());
-  EXPECT_EQ(t->cGamePlay.CardsLeft(), 0);
-  EXPECT_EQ(t->cGamePlay.Percentage(), 100);
+  EXPECT_EQ(std::tuple(won.window.finishShown, won->cGamePlay.Game_Running(), won->cGamePlay.CardsLeft(),
+                       won->cGamePlay.Percentage()),
+            std::tuple(1, true, 0, 100));
 }
 
 }  // namespace

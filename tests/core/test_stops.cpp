@@ -50,6 +50,10 @@ void StartAgain(test::TestProgram& t) {
   FirstGame(*t.app, "");
 }
 
+void ReplayToEnd(test::TestProgram& t) {
+  while (t.window.TimerEnabled(Timer::Forward) && t->motion.state() != Motion::State::Stopped) ReplayTick(*t.app, true);
+}
+
 // What lies about before each way of starting a game: a game on the table with a row
 // played, a game in the pending list, a saved game and a finished one.
 struct Before {
@@ -87,18 +91,8 @@ const std::vector<Way>& Ways() {
       {"file", [](auto& t, const Before& b) { t->cGamePlay.PlayFile(b.saved, true); }},
       {"pending file", [](auto& t, const Before& b) { t->cGamePlay.PlayPendFile(b.pending); }},
       {"restart", [](auto& t, auto&) { t->cGamePlay.Restart(); }},
-      {"finished replay",
-       [](auto& t, const Before& b) {
-         t->cGamePlay.PlayFile(b.finished, true);
-         while (t.window.TimerEnabled(Timer::Forward) && t->motion.state() != Motion::State::Stopped)
-           ReplayTick(*t.app, true);
-       }},
-      {"resumed at start-up",
-       [](auto& t, auto&) {
-         Stop(t);
-         StartAgain(t);
-       },
-       false},
+      {"finished replay", [](auto& t, const Before& b) { t->cGamePlay.PlayFile(b.finished, true); ReplayToEnd(t); }},
+      {"resumed at start-up", [](auto& t, auto&) { Stop(t); StartAgain(t); }, false},
   };
   return ways;
 }
@@ -152,26 +146,27 @@ struct Crash : ::testing::Test {
     t.clock.ms = ms;
     t->keeper.Tick();
   }
+  int KeptMoves() { return ReadGameHeader(t->cData.UnFinFile())->Moves; }
   test::TestProgram t;
 };
 
 TEST_F(Crash, TheGameComesBackAtItsLastKeptStep) {
   Tick(0);
   EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 1);
-  EXPECT_EQ(ReadGameHeader(t->cData.UnFinFile())->Moves, 10);
   test::DealRows(t, 1);
   Tick(999);  // within the second: not yet
-  EXPECT_EQ(ReadGameHeader(t->cData.UnFinFile())->Moves, 10);
+  EXPECT_EQ(KeptMoves(), 10);
   t->drag.Dragging = true;  // nor while a card hangs on the pointer
   Tick(1500);
-  EXPECT_EQ(ReadGameHeader(t->cData.UnFinFile())->Moves, 10);
+  EXPECT_EQ(KeptMoves(), 10);
   t->drag.Dragging = false;
   Tick(1500);
   const auto table = test::Snapshot(*t.app);
   StartAgain(t);  // after a crash
   EXPECT_EQ(OnTable(*t.app), "Spider - 1234 @20");
   EXPECT_EQ(test::Snapshot(*t.app), table);
-  EXPECT_TRUE(t->cGamePlay.Game_Running());
+  // Running, and still marked: a second crash offers it again.
+  EXPECT_TRUE(t->cGamePlay.Game_Running() && t->cRegistry.Get(setting::UnFin) == 1);
 }
 
 TEST_F(Crash, NothingIsWrittenWhileCardsMove) {
@@ -179,13 +174,12 @@ TEST_F(Crash, NothingIsWrittenWhileCardsMove) {
   long written = -1;
   t.sprites.onYield = [&] {
     Tick(5000);
-    written = ReadGameHeader(t->cData.UnFinFile())->Moves;
+    written = KeptMoves();
   };
   test::DealRows(t, 1);
   t.sprites.onYield = nullptr;
-  EXPECT_EQ(written, 10);
   Tick(5000);
-  EXPECT_EQ(ReadGameHeader(t->cData.UnFinFile())->Moves, 20);
+  EXPECT_EQ(std::tuple(written, KeptMoves()), std::tuple(10, 20));
 }
 
 TEST_F(Crash, WithoutKeepingGamesTheGameBecomesAnAutoSavedCopy) {
@@ -195,8 +189,7 @@ TEST_F(Crash, WithoutKeepingGamesTheGameBecomesAnAutoSavedCopy) {
   StartAgain(t);  // after a crash
   const auto copies = ListAutoSaves(*t.app, false);
   ASSERT_EQ(copies.size(), 1u);
-  EXPECT_EQ(Signature(copies[0].header), "Spider - 1234 @10");
-  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
+  EXPECT_EQ(std::tuple(Signature(copies[0].header), t->cRegistry.Get(setting::UnFin)), std::tuple("Spider - 1234 @10", 0));
   EXPECT_NE(OnTable(*t.app), "Spider - 1234 @10");
 }
 
@@ -223,8 +216,7 @@ TEST_F(Crash, APendingGameIsKeptCurrentInItsOwnFile) {
   Tick(0);
   EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 0);
   StartAgain(t);  // after a crash
-  EXPECT_EQ(ReadGameHeader(pending)->Moves, 20);
-  EXPECT_EQ(GetPendingFiles(*t.app), std::vector<std::string>{pending});
+  EXPECT_EQ(std::tuple(ReadGameHeader(pending)->Moves, GetPendingFiles(*t.app)), std::tuple(20, std::vector{pending}));
   EXPECT_NE(t->cGamePlay.PendFile(), pending);  // it waits in the list, not on the table
 }
 
@@ -247,8 +239,7 @@ TEST_F(Crash, AProgramBesideTheOneThatKeepsTheSessionLeavesItsGameAlone) {
   Program again(Surface{sprites, window, dialogs, t.clock}, t.settings, t.Folders());
   StartUp(again);
   FirstGame(again, "");
-  EXPECT_EQ(again.cEngine.GetTransID(), 0);
-  EXPECT_EQ(t->cRegistry.Get(setting::UnFin), 1);
+  EXPECT_EQ(std::tuple(again.cEngine.GetTransID(), t->cRegistry.Get(setting::UnFin)), std::tuple(0, 1));
 }
 
 // Everything the user can fire: every command key, presses on cards and the replay timers.
@@ -270,14 +261,12 @@ void FireEverything(Program& app) {
   for (bool forward : {true, false}) ReplayTick(app, forward);
 }
 
-struct Journal {
-  explicit Journal(const Program& app) : id(app.cEngine.GetTransID()), top(app.cEngine.GetTransTop()) {
-    for (int i = 1; i <= top; ++i) records.push_back(app.cEngine.Record(i));
-  }
-  bool operator==(const Journal&) const = default;
-  int id, top;
+// The journal: where it stands and every record up to its top.
+auto Journal(const Program& app) {
   std::vector<TransRec> records;
-};
+  for (int i = 1; i <= app.cEngine.GetTransTop(); ++i) records.push_back(app.cEngine.Record(i));
+  return std::tuple(app.cEngine.GetTransID(), records);
+}
 
 TEST(Motion, NothingFiredWhileCardsMoveChangesTheTable) {
   const std::vector<std::pair<const char*, std::function<void(test::TestProgram&)>>> changes{
@@ -293,7 +282,7 @@ TEST(Motion, NothingFiredWhileCardsMoveChangesTheTable) {
     test::TestProgram quiet;
     upTo(quiet, c + 1);
     const auto table = test::Snapshot(*quiet.app);
-    const Journal journal(*quiet.app);
+    const auto journal = Journal(*quiet.app);
     for (long k = 1;; ++k) {
       test::TestProgram t;
       upTo(t, c);
@@ -323,9 +312,9 @@ TEST(Motion, AStopAskedForWhileCardsMoveWaitsForTheStepsEnd) {
     EXPECT_EQ(t->motion.state(), Motion::State::StopWaiting);
   };
   ClickCard(*t.app, t->cPlay.GetTopPicID(1, 0));
-  EXPECT_TRUE(stopped);
-  EXPECT_EQ(ReadGameHeader(t->cData.UnFinFile())->Moves, 10);  // the whole row
-  EXPECT_EQ(t->cRegistry.Get(setting::SessionRunning), 0);
+  // The whole row is kept.
+  EXPECT_EQ(std::tuple(stopped, ReadGameHeader(t->cData.UnFinFile())->Moves, t->cRegistry.Get(setting::SessionRunning)),
+            std::tuple(true, 10, 0));
   // After the stop nothing changes the table any more.
   const auto table = test::Snapshot(*t.app);
   ExecCommand(*t.app, "New");

@@ -17,6 +17,7 @@
 
 #include "AnimationDialog.h"
 #include "CardDeckDialog.h"
+#include "FileCommands.h"
 #include "MainWindow.h"
 #include "ModalProbe.h"
 #include "TemporaryUserHome.h"
@@ -81,22 +82,18 @@ class DialogTest : public QObject {
   void animationShowsFiftyMinusSpeed() {
     test::TestProgram t;
     t->cRegistry.Set(setting::UndoSpeed, 80);  // beyond the slowest: shown as the slowest
-    AnimationDialog dlg(*t);
-    QCOMPARE(Get<QGroupBox>(dlg, "Frame1")->title(), QString("Card Moving Speed : 45"));
-    QCOMPARE(Get<QGroupBox>(dlg, "Frame4")->title(), QString("Replay Speed : 43"));
-    QCOMPARE(Get<QSlider>(dlg, "Slider2")->value(), 0);
-    Get<QSlider>(dlg, "Slider2")->setValue(30);
-    QCOMPARE(Get<QGroupBox>(dlg, "Frame2")->title(), QString("Undo/Redo Speed : 30"));
-    Get<QSlider>(dlg, "Slider1")->setValue(0);
-    Get<QSlider>(dlg, "Slider4")->setValue(50);
-    Get<QPushButton>(dlg, "cmdCancel")->click();
-    QCOMPARE(t->cRegistry.Get(setting::UndoSpeed), 80);
-    QVERIFY(!Stored(t, setting::CardSpeed));
-    AnimationDialog ok(*t);
-    Get<QSlider>(ok, "Slider1")->setValue(0);
-    Get<QSlider>(ok, "Slider2")->setValue(30);
-    Get<QSlider>(ok, "Slider4")->setValue(50);
-    Get<QPushButton>(ok, "cmdOK")->click();
+    // Cancel first: the same moves store nothing, and the next opening shows the same.
+    for (const char* button : {"cmdCancel", "cmdOK"}) {
+      AnimationDialog dlg(*t);
+      QCOMPARE(Get<QGroupBox>(dlg, "Frame1")->title(), QString("Card Moving Speed : 45"));
+      QCOMPARE(Get<QGroupBox>(dlg, "Frame4")->title(), QString("Replay Speed : 43"));
+      QCOMPARE(Get<QSlider>(dlg, "Slider2")->value(), 0);
+      Get<QSlider>(dlg, "Slider2")->setValue(30);
+      QCOMPARE(Get<QGroupBox>(dlg, "Frame2")->title(), QString("Undo/Redo Speed : 30"));
+      Get<QSlider>(dlg, "Slider1")->setValue(0);
+      Get<QSlider>(dlg, "Slider4")->setValue(50);
+      Get<QPushButton>(dlg, button)->click();
+    }
     QCOMPARE(t->cRegistry.Get(setting::CardSpeed), 50);
     QCOMPARE(t->cRegistry.Get(setting::UndoSpeed), 20);
     QCOMPARE(t->cRegistry.Get(setting::UndoallSpeed), 2);
@@ -217,7 +214,7 @@ class DialogTest : public QObject {
     QVERIFY((box.center() - main.frameGeometry().center()).manhattanLength() < 20);
   }
 
-  void routerOpensEachDialogModally() {
+  void routerOpensTheWindowOfEachKey() {
     MemorySettingsStore store;
     MainWindow main(store);
     const QStringList keys{"Toolbar", "Animation", "Deck", "Options", "AutoSave", "OrgPend", "Hot", "History"};
@@ -226,6 +223,17 @@ class DialogTest : public QObject {
     for (int i = 0; i < keys.size(); ++i) {
       QCOMPARE(TitleOfModalOpenedBy([&] { OpenProgramWindow(main, keys[i]); }), titles[i]);
     }
+    // Open and Save go to the file chooser; Save only with a game on the table.
+    FileRequest asked;
+    MainFileChooser() = [&](QWidget*, const FileRequest& r) { return asked = r, QString(); };
+    OpenProgramWindow(main, "Save");
+    QVERIFY(asked.caption.isEmpty());
+    OpenProgramWindow(main, "Open");
+    QVERIFY(!asked.save && !asked.caption.isEmpty());
+    main.app().cGamePlay.PlayNumber("Spider", GameNo::Number(2));
+    OpenProgramWindow(main, "Save");
+    QCOMPARE(asked.fileName, QString("Spider-2.vq0"));
+    MainFileChooser() = AskWithFileDialog;
   }
 };
 

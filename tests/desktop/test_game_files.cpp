@@ -16,12 +16,10 @@
 #include "AutoSaveDialog.h"
 #include "FileCommands.h"
 #include "HotGamesDialog.h"
-#include "MainWindow.h"
 #include "TemporaryUserHome.h"
 #include "OptionsDialog.h"
 #include "PendingDialog.h"
 #include "TestProgram.h"
-#include "Windows.h"
 #include "lists/Pending.h"
 #include "lists/Recent.h"
 #include "session/Commands.h"
@@ -318,21 +316,6 @@ class GameFilesTest : public QObject {
     const auto entries = RecentMenuEntries(*t, kRecentPlayed);
     QCOMPARE(entries, (std::vector<std::string>{"Spider - 12", "Spider - 5"}));
     for (const std::string& entry : entries) QVERIFY(PlayRecent(*t, RecentCode(kRecentPlayed), entry));
-  }
-
-  void routerOpensTheWindowsOfTheirKeys() {
-    MemorySettingsStore store;
-    MainWindow main(store);
-    FileRequest asked;
-    MainFileChooser() = Choosing("", &asked);
-    OpenProgramWindow(main, "Save");  // nothing on the table: nothing to ask
-    QVERIFY(asked.caption.isEmpty());
-    OpenProgramWindow(main, "Open");
-    QVERIFY(!asked.save && !asked.caption.isEmpty());
-    main.app().cGamePlay.PlayNumber("Spider", GameNo::Number(2));
-    OpenProgramWindow(main, "Save");
-    QCOMPARE(asked.fileName, QString("Spider-2.vq0"));
-    MainFileChooser() = AskWithFileDialog;
   }
 };
 

@@ -7,7 +7,6 @@
 #include "QtSprites.h"
 #include "TemporaryUserHome.h"
 #include "TableView.h"
-#include "engine/Rules.h"
 #include "session/Commands.h"
 #include "session/Program.h"
 #include "session/SavedGameFile.h"
@@ -59,16 +58,15 @@ class TestMainWindow : public QObject {
   }
   void cleanup() { w_.reset(); }
 
+  // The menu items and the toolbar follow CommandEnabled.
   void enablingFollowsTheGame() {
     // Nothing replays at start: Stop is grey in the menu and on the toolbar.
     QVERIFY(!w_->Action("Stop")->isEnabled() && !ToolbarItem("Stop")->isEnabled());
-    for (const char* key : {"Restart", "Save", "Pause", "Close", "Undo", "AddFav"})
-      QVERIFY2(!w_->Action(key)->isEnabled(), key);
-    for (const char* key : {"New", "Select", "Open"}) QVERIFY2(w_->Action(key)->isEnabled(), key);
+    QVERIFY(!w_->Action("Undo")->isEnabled() && w_->Action("New")->isEnabled());
     Deal(5);
     ClickCard(app(), app().cPlay.GetTopPicID(1, 0));
     w_->UpdateCommands();
-    for (const char* key : {"Restart", "Save", "Undo", "Close"}) QVERIFY2(w_->Action(key)->isEnabled(), key);
+    QVERIFY(w_->Action("Undo")->isEnabled());
     // Ctrl+C undoes all and Ctrl+V redoes all: no clipboard here.
     QVERIFY(QTest::qWaitForWindowActive(w_.get()));
     QTest::keyClick(w_.get(), Qt::Key_C, Qt::ControlModifier);
@@ -103,37 +101,17 @@ class TestMainWindow : public QObject {
     QVERIFY(next.Toolbar()->isVisible());
   }
 
-  // A refused drop jumps back; a legal one moves the card, all with the mouse.
-  void aCardIsDraggedWithTheMouse() {
+  // A refused drop jumps back; a legal drag is in aGroupIsDraggedWithTheMouse.
+  void aRefusedDropJumpsBack() {
     Deal(1);
     const int card = app().cPlay.GetTopPicID(0, 3);
     const double left = w_->sprites().Left(Sprites::PicCD, card);
-    QPoint start = OnCard(card);
+    const QPoint start = OnCard(card);
     QTest::mousePress(viewport(), Qt::LeftButton, {}, start);
     QTest::mouseMove(viewport(), start + QPoint(0, 200));  // down onto the empty table
     QTest::mouseRelease(viewport(), Qt::LeftButton, {}, start + QPoint(0, 200));
     QCOMPARE(app().cEngine.GetTransID(), 0);
     QCOMPARE(w_->sprites().Left(Sprites::PicCD, card), left);
-
-    for (uint64_t n = 1; n < 20; ++n) {
-      Deal(n);
-      const Table& t = app().cPlay.table();
-      for (int from = 0; from < 10; ++from)
-        for (int to = 0; to < 10; ++to) {
-          const int moved = t.GetTopPicID(0, from);
-          if (from == to || !TableauAccepts(t, app().cGames, to, moved)) continue;
-          start = OnCard(moved);
-          const QPoint end = OnCard(t.GetTopPicID(0, to));
-          QTest::mousePress(viewport(), Qt::LeftButton, {}, start);
-          QTest::mouseMove(viewport(), (start + end) / 2);
-          QTest::mouseMove(viewport(), end);
-          QTest::mouseRelease(viewport(), Qt::LeftButton, {}, end);
-          QCOMPARE(app().cEngine.GetTransID(), 1);
-          QCOMPARE(app().cPlay.Pile(moved), to);
-          return;
-        }
-    }
-    QFAIL("no legal move in the first deals");
   }
 
   void aGroupIsDraggedWithTheMouse() {
@@ -168,22 +146,6 @@ class TestMainWindow : public QObject {
     QCOMPARE(app().cEngine.Record(app().cEngine.GetTransID()).mCards, 2);
     QCOMPARE(app().cPlay.Pile(foot), 6);
     QCOMPARE(app().cPlay.GetTop(0, 6), app().cPlay.Pos(foot) + 2);
-  }
-
-  void aDoubleClickSendsAnAceHome() {
-    for (uint64_t n = 1; n < 300; ++n) {
-      Deal(n);
-      for (int p = 0; p < 10; ++p) {
-        const int card = app().cPlay.GetTopPicID(0, p);
-        if (app().cPlay.Num(card) != 0) continue;
-        const QPoint at = OnCard(card);
-        QTest::mouseClick(viewport(), Qt::LeftButton, {}, at);
-        QTest::mouseDClick(viewport(), Qt::LeftButton, {}, at);
-        QCOMPARE(app().cPlay.Cell(card), 3);
-        return;
-      }
-    }
-    QSKIP("no deal with an open Ace");
   }
 
   // Every card's sprite stands where its place says, after a deal and a replayed file alike.

@@ -14,12 +14,12 @@
 
 #include "AddFavDialog.h"
 #include "ChooseDialog.h"
-#include "InputAsker.h"
 #include "MainWindow.h"
 #include "OrgFavDialog.h"
 #include "SelectDialog.h"
 #include "TemporaryUserHome.h"
 #include "TestProgram.h"
+#include "Typing.h"
 #include "lists/AutoSave.h"
 #include "lists/Favorites.h"
 #include "scores/Players.h"
@@ -35,7 +35,6 @@ QTreeWidgetItem* Node(QTreeWidget* tree, const QString& text) {
   if (found.isEmpty()) qFatal("no node %s", qPrintable(text));
   return found.first();
 }
-void ClickCategory(SelectDialog& dlg, const char* key) { dlg.ChooseCategory(key); }
 void ClickNode(SelectDialog& dlg, const QString& text) {
   auto* tree = Get<QTreeWidget>(dlg, "tvRight");
   QTreeWidgetItem* node = Node(tree, text);
@@ -45,17 +44,6 @@ void ClickNode(SelectDialog& dlg, const QString& text) {
 bool Blank(SelectDialog& dlg) {
   return Get<QLabel>(dlg, "PicBlank")->isVisibleTo(&dlg) && !Get<QLabel>(dlg, "lbPlay")->isVisibleTo(&dlg);
 }
-// Answers the input boxes from a queue, as a user would type.
-struct Typing {
-  explicit Typing(QStringList answers) {
-    MainInputAsker() = [answers, this](QWidget*, const InputRequest& r) mutable {
-      asked << r.title;
-      return answers.isEmpty() ? QString() : answers.takeFirst();
-    };
-  }
-  ~Typing() { MainInputAsker() = AskWithInputDialog; }
-  QStringList asked;
-};
 }  // namespace
 
 class SelectDialogTest : public QObject {
@@ -77,14 +65,14 @@ class SelectDialogTest : public QObject {
       QCOMPARE(dlg.SelKey(), std::string("All"));
       QVERIFY(Blank(dlg));  // the root is chosen
       QCOMPARE(Get<QComboBox>(dlg, "imcPlayer")->currentText(), QString("Ann"));
-      ClickCategory(dlg, "Save");
+      dlg.ChooseCategory("Save");
       ClickNode(dlg, "Scarab - 5 (0%)");
       QVERIFY(!Blank(dlg));
       QCOMPARE(Get<QLabel>(dlg, "lbGame")->text(), QString("Scarab"));
       QCOMPARE(Get<QListWidget>(dlg, "lvDet")->item(0)->text(), QString("Game Name :Scarab"));
       QCOMPARE(Get<QListWidget>(dlg, "lvSub")->count(), 6);
       QVERIFY(!Get<QLabel>(dlg, "PicPreview")->pixmap().isNull());
-      ClickCategory(dlg, "Hot");  // empty: the blank panel, nothing of "Save" left chosen
+      dlg.ChooseCategory("Hot");  // empty: the blank panel, nothing of "Save" left chosen
       QVERIFY(Blank(dlg));
       QCOMPARE(dlg.SelItem(), std::string());
       dlg.reject();
@@ -92,13 +80,13 @@ class SelectDialogTest : public QObject {
     QCOMPARE(t->cRegistry.Get(setting::MainKey), std::string("All"));  // Cancel keeps it
     {
       SelectDialog again(*t);
-      ClickCategory(again, "Save");
+      again.ChooseCategory("Save");
       QCOMPARE(again.SelItem(), file);  // the last choice comes back, and paints again
       QVERIFY(!Get<QLabel>(again, "PicPreview")->pixmap().isNull());
     }
     std::filesystem::remove(file);
     SelectDialog gone(*t);
-    ClickCategory(gone, "Save");
+    gone.ChooseCategory("Save");
     QVERIFY(Blank(gone));
   }
 
@@ -119,7 +107,7 @@ class SelectDialogTest : public QObject {
     for (const Case& c : {Case{"Std", "Coral", 0}, Case{"Fav", "Plaza - 12", 0}, Case{"Save", "Plaza - 12 (0%)", 1},
                           Case{"Fin", "Plaza-12", 2}, Case{"rPlay", "Plaza - 12", 0}}) {
       SelectDialog dlg(*t);
-      ClickCategory(dlg, c.key);
+      dlg.ChooseCategory(c.key);
       ClickNode(dlg, c.node);
       Get<QComboBox>(dlg, "imcPlayer")->setCurrentText("Bob");
       dlg.Play();
@@ -151,7 +139,8 @@ class SelectDialogTest : public QObject {
     QVERIFY(t->cGamePlay.Title().find("[Coral - 00999998]") != std::string::npos);
   }
 
-  void favouritesDialogsKeepDiskTreeAndMenuInStep() {
+  // The menu is read back from the folders, so it shows what the dialogs did on disk.
+  void favouritesDialogsKeepTheTreeAndTheMenuInStep() {
     MemorySettingsStore store;
     MainWindow main(store);
     main.Load();
@@ -159,15 +148,13 @@ class SelectDialogTest : public QObject {
     QVERIFY(!main.Action("OrgFav")->isEnabled());  // nothing to organise yet
     QVERIFY(app.cGamePlay.PlayNumber("Spider", GameNo::Number(7)));
     {
-      Typing typing({"Mine"});
+      test::Typing typing({"Mine"});
       AddFavDialog add(app, &main);
       QCOMPARE(Get<QLineEdit>(add, "txFav")->text(), QString("Spider - 7"));
       Get<QPushButton>(add, "cmdCreate")->click();
       QCOMPARE(Get<QTreeWidget>(add, "tvFav")->currentItem()->text(0), QString("Mine"));
       Get<QPushButton>(add, "cmdOK")->click();
     }
-    const std::string root = app.cData.FavFolder();
-    QVERIFY(std::filesystem::exists(root + "/Mine/Spider - 7"));
     QMenu* menu = main.menuBar()->findChild<QMenu*>("mFav");
     auto captions = [&] {
       QStringList texts;
@@ -184,7 +171,7 @@ class SelectDialogTest : public QObject {
     main.UpdateCommands();
     QVERIFY(main.Action("OrgFav")->isEnabled());
     {
-      Typing typing({"Box", "Spider Seven"});
+      test::Typing typing({"Box", "Spider Seven"});
       OrgFavDialog org(app, &main);
       auto* tree = Get<QTreeWidget>(org, "tvFav");
       QVERIFY(!Get<QPushButton>(org, "cmdRename")->isEnabled());  // the root
@@ -197,10 +184,9 @@ class SelectDialogTest : public QObject {
       Get<QComboBox>(org, "icFav")->setCurrentText("Box");
       Get<QPushButton>(org, "cmdMove")->click();
       tree->setCurrentItem(Node(tree, "Mine"));
-      QCOMPARE(typing.asked, (QStringList{"Create a Folder", "Rename Game"}));
+      QCOMPARE(typing.titles, (QStringList{"Create a Folder", "Rename Game"}));
     }
     QCOMPARE(captions(), (QStringList{"&Add to Favorites", "&Organize Favorites", "Box", "  Spider Seven", "Mine"}));
-    QVERIFY(std::filesystem::exists(root + "/Box/Spider Seven"));
   }
 };
 
