@@ -110,6 +110,9 @@ TEST_F(Commands, ToolbarDefaultsAndCaptions) {
     throw std::runtime_error(std::string(key));
   };
   EXPECT_TRUE(shown("Editor") && shown("Sep8"));  // AddFav shows by default, and its separator
+  // The solver's buttons come last, after their own separator: Hint shown, New Winnable not.
+  EXPECT_EQ(std::tuple(shown("Sep13"), shown("Hint"), shown("NewWinnable")), std::tuple(true, true, false));
+  EXPECT_EQ(std::string(ToolbarLayout().back().key), "NewWinnable");
   EXPECT_STREQ(ToolbarButton(4).tooltip, "Open a Saved Game");
   EXPECT_STREQ(ToolbarButton(11).caption, "PauseGame");
 }
