@@ -21,11 +21,11 @@ class RowSearch {
   RowSearch(const SolverGame& g, const SearchLimits& limits, RowByRowResult& out)
       : g_(g), limits_(limits), out_(out) {}
 
-  // One pass: `width` positions searched between two rows; along the way, at most `spare`
-  // rows dealt from a table other than the best (the first such choice counts one, the next two...).
   // Did the last pass leave anything out? When not, a wider one would find nothing new.
   bool Cut() const { return cut_; }
 
+  // One pass: `width` positions searched between two rows; along the way, at most `spare`
+  // rows dealt from a table other than the best (the second best costs one, the third two).
   bool Pass(int64_t width, const ProgressWeights& weights, int spare) {
     width_ = width;
     weights_ = weights;
