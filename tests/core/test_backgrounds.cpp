@@ -16,6 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 const double kJustBelowOne = std::nextafter(1.0, 0.0);
+using V = std::vector<std::string>;
 
 struct Backgrounds : ::testing::Test {
   test::TestProgram t;
@@ -26,8 +27,9 @@ struct Backgrounds : ::testing::Test {
     fs::create_directories(t.home.Path() / name);
     return (t.home.Path() / name).string();
   }
-  // What a pick at r paints, alone.
-  std::vector<std::string> PickAt(double r) {
+  // What a pick at r paints, alone, of the background kind given (or the one stored).
+  std::vector<std::string> PickAt(double r, int kind = -1) {
+    if (kind >= 0) Set(setting::BackIndex, kind);
     bg().painted.clear();
     PickWallpaperAt(*t, r);
     return bg().painted;
@@ -35,9 +37,8 @@ struct Backgrounds : ::testing::Test {
 };
 
 TEST(ColorSchemeFile, TheDefaultSchemeByteForByteAndWhatReads) {
-  const std::string line = " 0 " + std::string(11, ' ') + " 128 " + std::string(9, ' ') + " 0 " +
-                           std::string(11, ' ') + " 128 " + std::string(9, ' ') + " 0 " + std::string(11, ' ') +
-                           " 0 \r\n";
+  // The exact file line.
+  const std::string line = " 0             128           0             128           0             0 \r\n";
   EXPECT_EQ(SchemeText(kDefaultScheme), line);
   EXPECT_EQ(ParseScheme(line), kDefaultScheme);
   EXPECT_EQ(ParseScheme("1,2,3\r\n4 5\n6"), (Scheme{1, 2, 3, 4, 5, 6}));
@@ -49,7 +50,7 @@ TEST(ColorSchemeFile, TheDefaultSchemeByteForByteAndWhatReads) {
 TEST_F(Backgrounds, FirstRunMakesTheDefaultSchemeAndLeavesAnExistingOneAlone) {
   const std::string path = t->cData.DefaultSchemeFile();
   EXPECT_EQ(fs::path(path).filename(), "Default Color Scheme");
-  EXPECT_EQ(SchemeFile(*t), path);
+  EXPECT_EQ(SchemeFile(*t), path);  // which writes the file at the first run
   EXPECT_EQ(test::ReadFile(path), SchemeText(kDefaultScheme));
   test::WriteFile(path, "9 9 9 9 9 9\r\n");
   t->cData.CreateDefaultSchemeFile();
@@ -57,8 +58,7 @@ TEST_F(Backgrounds, FirstRunMakesTheDefaultSchemeAndLeavesAnExistingOneAlone) {
 }
 
 TEST_F(Backgrounds, AccessorsMendWhatNoLongerFitsWithoutWritingItBack) {
-  EXPECT_EQ(ColorIndex(*t), 7);
-  EXPECT_EQ(t->cImages.ColorName(7), "Felt Green");
+  EXPECT_EQ(std::pair(ColorIndex(*t), t->cImages.ColorName(7)), std::pair(7, std::string("Felt Green")));
   for (int bad : {0, -3, t->cImages.ColorCount() + 1}) {
     for (const IntSetting* s : {&setting::TextureIndex, &setting::ColorIndex, &setting::ImageIndex}) Set(*s, bad);
     EXPECT_EQ(std::tuple(TextureIndex(*t), ColorIndex(*t), ImageIndex(*t)), std::tuple(1, 1, 1)) << bad;
@@ -90,11 +90,7 @@ TEST_F(Backgrounds, ApplyClearsPaintsTheStoredKindAndSetsTheTimer) {
 
   const std::string bad = Folder("data/Velmarin Works/Quorvale 6.0/Color Schemes") + "/Broken";
   test::WriteFile(bad, "1 2 3\r\n");
-  struct Case {
-    int kind, timer;
-    std::string painted;
-    int interval;
-  };
+  struct Case { int kind, timer; std::string painted; int interval; };
   Set(setting::FadeIndex, 0);
   Set(setting::EnableTile, 0);
   Set(setting::SchemeFile, bad);
@@ -105,43 +101,37 @@ TEST_F(Backgrounds, ApplyClearsPaintsTheStoredKindAndSetsTheTimer) {
     Set(setting::WPTimerValue, c.timer);
     bg().painted.clear();
     ApplyBackground(*t);
-    std::vector<std::string> expected{"clear"};
-    if (!c.painted.empty()) expected.push_back(c.painted);
-    EXPECT_EQ(bg().painted, expected) << c.kind;
+    EXPECT_EQ(bg().painted, (c.painted.empty() ? V{"clear"} : V{"clear", c.painted})) << c.kind;
     EXPECT_EQ(bg().wallTimer, c.interval) << c.kind;
   }
   EXPECT_EQ(ReadScheme(bad), std::nullopt);  // a broken scheme is painted as the default, not mended
 }
 
 TEST_F(Backgrounds, PickTakesTheFirstAndTheLastOfEachKindAndChangesNothing) {
-  const int textures = t->cImages.TextureCount(), colours = t->cImages.ColorCount(), images = t->cImages.ImageCount();
-  Set(setting::BackIndex, 0);
-  EXPECT_EQ(PickAt(0), std::vector<std::string>{"texture 1 tiled"});
-  EXPECT_EQ(PickAt(kJustBelowOne), std::vector<std::string>{"texture " + std::to_string(textures) + " tiled"});
-  Set(setting::BackIndex, 1);
-  EXPECT_EQ(PickAt(kJustBelowOne), std::vector<std::string>{"gradient " + RecordingBackground::Text(t->cImages.ColorValue(colours)) + " 0,0,0"});
-  Set(setting::BackIndex, 2);
-  EXPECT_EQ(PickAt(kJustBelowOne), std::vector<std::string>{"image " + std::to_string(images) + " tiled"});
+  const cImages& im = t->cImages;
+  EXPECT_EQ(PickAt(0, 0), V{"texture 1 tiled"});
+  EXPECT_EQ(PickAt(kJustBelowOne, 0), V{"texture " + std::to_string(im.TextureCount()) + " tiled"});
+  EXPECT_EQ(PickAt(kJustBelowOne, 1),
+            V{"gradient " + RecordingBackground::Text(im.ColorValue(im.ColorCount())) + " 0,0,0"});
+  EXPECT_EQ(PickAt(kJustBelowOne, 2), V{"image " + std::to_string(im.ImageCount()) + " tiled"});
 
   // Schemes: every file of the folder that reads, by name; none made when there are none.
-  Set(setting::BackIndex, 3);
-  EXPECT_TRUE(PickAt(0).empty());
+  EXPECT_TRUE(PickAt(0, 3).empty());
   EXPECT_FALSE(fs::exists(t->cData.SchemeFolder(FolderUse::Read)));
   const std::string schemes = Folder("data/Velmarin Works/Quorvale 6.0/Color Schemes");
   test::WriteFile(schemes + "/A", "1 1 1 2 2 2\r\n");
   test::WriteFile(schemes + "/B", "broken");
   test::WriteFile(schemes + "/C.txt", "3,3,3,4,4,4\r\n");
-  EXPECT_EQ(PickAt(0), std::vector<std::string>{"gradient 1,1,1 2,2,2"});
-  EXPECT_EQ(PickAt(kJustBelowOne), std::vector<std::string>{"gradient 3,3,3 4,4,4"});
+  EXPECT_EQ(PickAt(0), V{"gradient 1,1,1 2,2,2"});
+  EXPECT_EQ(PickAt(kJustBelowOne), V{"gradient 3,3,3 4,4,4"});
 
   // Custom pictures: the entries of LIST0; a gone file paints nothing.
-  Set(setting::BackIndex, 4);
-  EXPECT_TRUE(PickAt(0).empty());
+  EXPECT_TRUE(PickAt(0, 4).empty());
   const std::string a = t.home.File("a.bmp"), z = t.home.File("z.jpg");
   test::WriteFile(a, "x");
   t->cFunc.AddtoLIST(0, a);
   t->cFunc.AddtoLIST(0, z);
-  EXPECT_EQ(PickAt(0), std::vector<std::string>{"file " + a + " tiled"});
+  EXPECT_EQ(PickAt(0), V{"file " + a + " tiled"});
   EXPECT_TRUE(PickAt(kJustBelowOne).empty());
 
   // Image folders: the pictures beside the stored one, any case of extension, by name.
@@ -150,8 +140,8 @@ TEST_F(Backgrounds, PickTakesTheFirstAndTheLastOfEachKindAndChangesNothing) {
   for (const char* name : {"b.PNG", "a.Jpeg", "notes.txt", "c.gif"}) test::WriteFile(folder + "/" + name, "x");
   Set(setting::ImageFolderFile, folder + "/c.gif");
   t.settings.SetRefuseWrites(true);  // a pick that wrote a setting would be told so
-  EXPECT_EQ(PickAt(0), std::vector<std::string>{"file " + folder + "/a.Jpeg tiled"});
-  EXPECT_EQ(PickAt(kJustBelowOne), std::vector<std::string>{"file " + folder + "/c.gif tiled"});
+  EXPECT_EQ(PickAt(0), V{"file " + folder + "/a.Jpeg tiled"});
+  EXPECT_EQ(PickAt(kJustBelowOne), V{"file " + folder + "/c.gif tiled"});
   EXPECT_TRUE(t.dialogs.shown.empty());
   t.settings.SetRefuseWrites(false);
   Set(setting::ImageFolderFile, Folder("empty") + "/x.bmp");

@@ -19,12 +19,9 @@ TEST(ProductData, NamesAndTheSevenStandardGamesInTheirOrder) {
   const char* const games[] = {"Spider", "Spider Single Suit", "Spider Two Suit", "Scarab",
                                "Plaza",  "Coral",              "Spider Plus"};
   ASSERT_EQ(d.TotalGames(), 7);
-  for (int id = 1; id <= 7; ++id) {
-    EXPECT_EQ(d.GetGName(id), games[id - 1]);
-    EXPECT_EQ(d.GetGameID(games[id - 1]), id);
-    EXPECT_FALSE(d.IsOriginal(games[id - 1]));
-    EXPECT_EQ(d.GetDeck(games[id - 1]), "Two (104 Cards)");
-  }
+  for (int id = 1; id <= 7; ++id)
+    EXPECT_EQ(std::tuple(d.GetGName(id), d.GetGameID(games[id - 1]), d.IsOriginal(games[id - 1]), d.GetDeck(games[id - 1])),
+              std::tuple(games[id - 1], id, false, "Two (104 Cards)"));
 }
 
 // A name is a game only as written, case and blanks included: "spider" is no game, so it
@@ -32,12 +29,9 @@ TEST(ProductData, NamesAndTheSevenStandardGamesInTheirOrder) {
 TEST(ProductData, AnUnknownNameIsNoGameAndCaseCounts) {
   test::TestProgram t;
   const cData& d = t->cData;
-  for (const char* name : {"", "Spider Three Suit", "spider", "SPIDER", "Spider ", "Spider two suit"}) {
-    EXPECT_FALSE(d.GameExists(name)) << name;
-    EXPECT_EQ(d.GetGameID(name), 0) << name;
-    EXPECT_FALSE(d.IsOriginal(name)) << name;
-    EXPECT_EQ(d.GetDeck(name), "") << name;
-  }
+  for (const char* name : {"", "Spider Three Suit", "spider", "SPIDER", "Spider ", "Spider two suit"})
+    EXPECT_EQ(std::tuple(d.GameExists(name), d.GetGameID(name), d.IsOriginal(name), d.GetDeck(name)),
+              std::tuple(false, 0, false, "")) << name;
   EXPECT_FALSE(t->cGamePlay.PlayNumber("spider", GameNo::Number(1)));
   EXPECT_EQ(t.dialogs.shown.size(), 1u);
 }

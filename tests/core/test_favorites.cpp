@@ -36,20 +36,15 @@ TEST_F(Favorites, RecordsKeepTheNumberFormAndReadBack) {
   ASSERT_TRUE(t->cGamePlay.PlayString("Spider Two Suit - 0042"));  // typed: quoted, every digit kept
   ASSERT_TRUE(AddFavFile(*t.app, At("typed")));
   EXPECT_EQ(test::ReadFile(At("typed")), "\"Spider Two Suit\",\"0042\",\"Player1\",#11/18/2026 11:06:40 AM#\r\n");
-  const auto typed = ReadFavFile(At("typed"));
-  ASSERT_TRUE(typed);
-  EXPECT_EQ(typed->GameNo, GameNo::Typed("0042"));
+  EXPECT_EQ(ReadFavFile(At("typed")).value().GameNo, GameNo::Typed("0042"));
   test::WriteFile(At("comma"), "\"A, B\",-7,\"Me, too\",#x#");
-  const auto comma = ReadFavFile(At("comma"));
-  ASSERT_TRUE(comma);
-  EXPECT_EQ(FavRecordLine(*comma), "\"A, B\",-7,\"Me, too\",#x#");
-  EXPECT_FALSE(comma->GameNo.IsTyped());
+  const FavRecord comma = ReadFavFile(At("comma")).value();
+  EXPECT_EQ(std::tuple(FavRecordLine(comma), comma.GameNo.IsTyped()), std::tuple("\"A, B\",-7,\"Me, too\",#x#", false));
 }
 
 TEST_F(Favorites, JunkIsSkippedAndKeptAndNamesGoByNameIgnoringCase) {
   const std::string good = "\"Spider\",5,\"P\",#d#\r\n";
-  fs::create_directories(At("beta/deeper"));
-  fs::create_directories(At("Alpha"));
+  for (const char* folder : {"beta/deeper", "Alpha"}) fs::create_directories(At(folder));
   // "lost" lies two levels down, too deep; the last four do not read.
   for (const auto& [name, text] : {std::pair<const char*, std::string>{"beta/z game", good}, {"beta/A game", good},
                                    {"beta/deeper/lost", good}, {"Alpha/.directory", "[Desktop Entry]\n"},
@@ -96,11 +91,10 @@ TEST_F(Favorites, OrganizingKeepsDiskAndMenusInStep) {
   const int refreshes = t.window.menuRefreshes;
   EXPECT_FALSE(DeleteFav(*t.app, At("Crate")));  // No
   t.dialogs.answers = {Answer::Yes, Answer::Yes};
-  ASSERT_TRUE(DeleteFav(*t.app, At("one")));
-  ASSERT_TRUE(DeleteFav(*t.app, At("Crate")));
-  EXPECT_EQ(t.dialogs.titles.back(), "Delete Folder");
+  for (const char* name : {"one", "Crate"}) ASSERT_TRUE(DeleteFav(*t.app, At(name))) << name;
+  EXPECT_EQ(std::vector(t.dialogs.titles.end() - 2, t.dialogs.titles.end()),
+            (std::vector<std::string>{"Delete Game", "Delete Folder"}));
   EXPECT_EQ(t.dialogs.shown.back(), "Are you sure you want to remove the Folder Crate and all its contents ?");
-  EXPECT_EQ(t.dialogs.titles[t.dialogs.titles.size() - 2], "Delete Game");
   EXPECT_EQ(t.window.menuRefreshes, refreshes + 2);
   EXPECT_TRUE(Shown().empty());
 }

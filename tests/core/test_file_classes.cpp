@@ -20,17 +20,16 @@ TEST(FileClasses, RegisteringMakesBothTypesKnownAndKeepsOtherDefaults) {
                   "[Default Applications]\ntext/plain=editor.desktop\napplication/x-quorvale-finished=old.desktop\n"
                   "[Added Associations]\nimage/png=viewer.desktop\n");
   RegisterFileTypes(*t.app);
-  EXPECT_EQ(GetFileClass(*t.app, ".vq0"), "Quorvale.Incomplete");
-  EXPECT_EQ(GetFileClass(*t.app, ".vq1"), "Quorvale.Finished");
-  EXPECT_EQ(GetFileClass(*t.app, ".txt"), "");
+  EXPECT_EQ(std::tuple(GetFileClass(*t.app, ".vq0"), GetFileClass(*t.app, ".vq1"), GetFileClass(*t.app, ".txt")),
+            std::tuple("Quorvale.Incomplete", "Quorvale.Finished", ""));
   const std::string defaults = test::ReadFile(mimeapps.string());
-  EXPECT_NE(defaults.find("text/plain=editor.desktop"), std::string::npos);
-  EXPECT_NE(defaults.find("image/png=viewer.desktop"), std::string::npos);
-  EXPECT_NE(defaults.find("application/x-quorvale-finished=quorvale.desktop"), std::string::npos);
+  for (const char* kept :
+       {"text/plain=editor.desktop", "image/png=viewer.desktop", "application/x-quorvale-finished=quorvale.desktop"})
+    EXPECT_NE(defaults.find(kept), std::string::npos) << kept;
   EXPECT_EQ(defaults.find("old.desktop"), std::string::npos);
   const std::string entry = test::ReadFile((t.home.Path() / "data" / "applications" / "quorvale.desktop").string());
-  EXPECT_NE(entry.find("MimeType=application/x-quorvale-finished;application/x-quorvale-incomplete;"), std::string::npos);
-  EXPECT_NE(entry.find("%f"), std::string::npos);
+  for (const char* line : {"MimeType=application/x-quorvale-finished;application/x-quorvale-incomplete;", "%f"})
+    EXPECT_NE(entry.find(line), std::string::npos) << line;
   // A default the user chose since is theirs: the types stay registered.
   test::WriteFile(mimeapps.string(), "[Default Applications]\napplication/x-quorvale-finished=other.desktop\n"
                                      "application/x-quorvale-incomplete=other.desktop\n");
@@ -52,13 +51,12 @@ TEST(FileClasses, APartThatFailedIsTriedAgainAtTheNextStart) {
     if (tool) setenv("PATH", t.home.File("no-tools").c_str(), 1);
     else fs::create_directories(t.home.Path() / part / "in-the-way");
     RegisterFileTypes(*t.app);
-    EXPECT_EQ(GetFileClass(*t.app, ".vq0"), "");
-    EXPECT_EQ(GetFileClass(*t.app, ".vq1"), "");
+    EXPECT_EQ(std::tuple(GetFileClass(*t.app, ".vq0"), GetFileClass(*t.app, ".vq1")), std::tuple("", ""));
     if (tool) setenv("PATH", path.c_str(), 1);
     else fs::remove_all(t.home.Path() / part);
     RegisterFileTypes(*t.app);
-    EXPECT_EQ(GetFileClass(*t.app, ".vq0"), "Quorvale.Incomplete");
-    EXPECT_EQ(GetFileClass(*t.app, ".vq1"), "Quorvale.Finished");
+    EXPECT_EQ(std::tuple(GetFileClass(*t.app, ".vq0"), GetFileClass(*t.app, ".vq1")),
+              std::tuple("Quorvale.Incomplete", "Quorvale.Finished"));
   }
 }
 

@@ -45,10 +45,8 @@ TEST(HistoryReport, ByteForByte) {
   const HistoryHead head = HistoryHeadOf(*t.app);
   // The journal of the example: record 1 is the single card from pile 3, position 5 to
   // pile 7, position 9, that uncovered a card; then a group of four, and one undone.
-  std::vector<TransRec> records{Rec(23, 3, 5, 7, 9, 0, 3), Rec(40, 2, 3, 0, 7, 3, 0)};
-  t->cEngine.LoadRecords(records);
-  const std::string report = HistoryReport(head, t->cEngine);
-  EXPECT_EQ(report,
+  t->cEngine.LoadRecords({Rec(23, 3, 5, 7, 9, 0, 3), Rec(40, 2, 3, 0, 7, 3, 0)});
+  EXPECT_EQ(HistoryReport(head, t->cEngine),
             "Game Name: Spider\r\n"
             "Game Number:  482913 \r\n"
             "Player: Player1\r\n"
@@ -74,8 +72,7 @@ TEST(HistoryReport, ExportWritesTheReportAndKeepsAFileOnFailure) {
   ASSERT_TRUE(ExportHistory(*t.app, path));
   const auto lines = Lines(test::ReadFile(path));
   ASSERT_EQ(lines.size(), 8u + 21u);
-  EXPECT_EQ(lines[3], "Moves:  21 ");
-  EXPECT_EQ(lines[8].substr(0, 21), " 1   Stock (Pile 1, C");
+  EXPECT_EQ(std::tuple(lines[3], lines[8].substr(0, 21)), std::tuple("Moves:  21 ", " 1   Stock (Pile 1, C"));
   std::string error;
   EXPECT_FALSE(ExportHistory(*t.app, t.home.File("no folder/x.txt"), &error));
   EXPECT_FALSE(error.empty());

@@ -41,9 +41,7 @@ TEST_F(Pointer, PressesThatMoveNothing) {
   const int other = Top(refused);
   const double otherLeft = Sprite(other).left;
   DragCardToPile(*t.app, other, 0);
-  EXPECT_EQ(Sprite(other).left, otherLeft);
-  EXPECT_EQ(t->cPlay.Pile(other), refused);
-  EXPECT_EQ(t->cEngine.GetTransID(), 0);
+  EXPECT_EQ(std::tuple(Sprite(other).left, t->cPlay.Pile(other), t->cEngine.GetTransID()), std::tuple(otherLeft, refused, 0));
 }
 
 TEST_F(Pointer, AGroupMovesAsOneRecordAndLandsInOrder) {
@@ -53,24 +51,19 @@ TEST_F(Pointer, AGroupMovesAsOneRecordAndLandsInOrder) {
   const int foot = t->cPlay.GetPicID(0, 1, t->cPlay.GetTop(0, 1) - 2);
   PointerPressed(*t.app, foot, 500, 30);
   ASSERT_TRUE(t->drag.Dragging);
-  EXPECT_EQ(t->drag.DragCount, 2);
-  EXPECT_EQ(Sprite(foot).height, 1440 + 2 * 250);
-  EXPECT_EQ(Sprite(t->cPlay.Sel()[1]).parent, foot);
-  EXPECT_EQ(Sprite(t->cPlay.Sel()[2]).top, 500);
+  const auto& sel = t->cPlay.Sel();
+  EXPECT_EQ(std::tuple(t->drag.DragCount, Sprite(foot).height, Sprite(sel[1]).parent, Sprite(sel[2]).top),
+            std::tuple(2, 1440 + 2 * 250, foot, 500));
   PointerReleased(*t.app, foot);  // back where it was: the group comes apart again
-  EXPECT_EQ(Sprite(t->cPlay.Sel()[2]).parent, -1);
-  EXPECT_EQ(Sprite(t->cPlay.Sel()[2]).top, Sprite(foot).top + 500);
+  EXPECT_EQ(std::tuple(Sprite(sel[2]).parent, Sprite(sel[2]).top), std::tuple(-1, Sprite(foot).top + 500));
 
   const int toTop = t->cPlay.GetTop(0, 5);
   DragCardToPile(*t.app, foot, 5);
   const TransRec& r = t->cEngine.Record(t->cEngine.GetTransID());
-  EXPECT_EQ(r.mCards, 2);
-  EXPECT_EQ(r.DPos, toTop + 1);
-  EXPECT_EQ(t->cPlay.GetTop(0, 5), toTop + 3);
+  EXPECT_EQ(std::tuple(r.mCards, r.DPos, t->cPlay.GetTop(0, 5)), std::tuple(2, toTop + 1, toTop + 3));
   for (int q = toTop + 1; q <= toTop + 3; ++q) {
     const int pic = t->cPlay.GetPicID(0, 5, q);
-    EXPECT_EQ(Sprite(pic).parent, -1);
-    EXPECT_EQ(Sprite(pic).top, t->cGames.GetCordY(0, 5, q));
+    EXPECT_EQ(std::tuple(Sprite(pic).parent, Sprite(pic).top), std::tuple(-1, t->cGames.GetCordY(0, 5, q))) << q;
     if (q > toTop + 1) EXPECT_GT(Sprite(pic).z, Sprite(t->cPlay.GetPicID(0, 5, q - 1)).z);
   }
   EXPECT_EQ(Sprite(foot).height, 1440);
@@ -96,23 +89,18 @@ TEST_F(Pointer, WhatAPressDoesDependsOnTheGame) {
   t->cGamePlay.PauseGame(true);
   t.window.EnableTimer(Timer::Game, false);
   ClickCard(*t.app, Top(2));
-  EXPECT_FALSE(t->cGamePlay.PauseStatus());
-  EXPECT_TRUE(t.window.TimerEnabled(Timer::Game));
+  EXPECT_EQ(std::tuple(t->cGamePlay.PauseStatus(), t.window.TimerEnabled(Timer::Game)), std::tuple(false, true));
 
   const int stockTop = t->cPlay.GetTopPicID(1, 0);
   PointerPressed(*t.app, stockTop, 500, 30);
-  EXPECT_FALSE(t->drag.Dragging);
-  EXPECT_EQ(t->cPlay.GetTop(1, 0), 49);
-  EXPECT_EQ(t->cPlay.Cell(stockTop), 0);
-  EXPECT_TRUE(t->cPlay.FaceMode(stockTop));
+  EXPECT_EQ(std::tuple(t->drag.Dragging, t->cPlay.GetTop(1, 0), t->cPlay.Cell(stockTop), t->cPlay.FaceMode(stockTop)),
+            std::tuple(false, 49, 0, true));
 
   PointerPressed(*t.app, Top(0), 500, 30);
   ASSERT_TRUE(t->drag.Dragging);
   t->cGamePlay.ClearArea();
-  EXPECT_FALSE(t->drag.Dragging);
-  EXPECT_EQ(t.sprites.Count(Sprites::PicCD), 1);
-  EXPECT_FALSE(t.sprites.Get(Sprites::PicCD, 0).visible);
-  EXPECT_EQ(t.sprites.Get(Sprites::PicCD, 0).height, 1440);
+  EXPECT_EQ(std::tuple(t->drag.Dragging, t.sprites.Count(Sprites::PicCD), Sprite(0).visible, Sprite(0).height),
+            std::tuple(false, 1, false, 1440));
 
   t.Deal("Spider", 1);
   t->cGamePlay.Game_Running(false);
@@ -124,13 +112,11 @@ TEST_F(Pointer, EmptyPilesAreFoundAboveTheirMarker) {
   test::PlayWithRules(t, kAnyCard);
   while (t->cPlay.GetTop(0, 9) >= 0) DragCardToPile(*t.app, Top(9), 8);
   ASSERT_EQ(t->cPlay.GetTop(0, 9), -1);
-  const int card = Top(0);
-  const int markerTop = t->cGames.GetCordY(0, 9, 0);
+  const int card = Top(0), markerTop = t->cGames.GetCordY(0, 9, 0);
   // The card's centre in the marker's lowest 250 twips misses the first pass and is
   // found by the overlap of the second.
   DragCardTo(*t.app, card, t->cGames.GetCordX(0, 9, 0), markerTop + 1440 - 250 - 720 + 100);
-  EXPECT_EQ(t->cPlay.Pile(card), 9);
-  EXPECT_EQ(t->cPlay.Pos(card), 0);
+  EXPECT_EQ(std::tuple(t->cPlay.Pile(card), t->cPlay.Pos(card)), std::tuple(9, 0));
   EXPECT_EQ(t.sprites.Get(Sprites::PicHome, 9).picture.Name(), "marker 14");
 }
 
@@ -155,10 +141,8 @@ TEST_F(Pointer, ADoubleClickSendsAnAceToTheFirstEmptyFoundation) {
       if (t->cPlay.Num(card) != 0) continue;
       const int under = t->cPlay.GetPicID(0, p, t->cPlay.GetTop(0, p) - 1);
       DoubleClickCard(*t.app, card);
-      EXPECT_EQ(t->cPlay.Cell(card), 3);
-      EXPECT_EQ(t->cPlay.Pile(card), 0);
-      EXPECT_TRUE(t->cPlay.FaceMode(under));
-      EXPECT_EQ(t->cEngine.Record(1).tMod, 3);
+      EXPECT_EQ(std::tuple(t->cPlay.Cell(card), t->cPlay.Pile(card), t->cPlay.FaceMode(under), t->cEngine.Record(1).tMod),
+                std::tuple(3, 0, true, 3));
       // A card under others, or one no foundation takes, stays.
       DoubleClickCard(*t.app, t->cPlay.GetPicID(0, (p + 1) % 10, 0));
       EXPECT_EQ(t->cEngine.GetTransID(), 1);

@@ -74,7 +74,8 @@ TEST(Rules, NamesOfCodes) {
 }
 
 // The seven differ only in Suits and MOrder; a stored MOrder 0 groups by the tableau's order.
-TEST(Rules, StandardGames) {
+// Fewer piles start further in, so that they stand centred; the Stock and foundations stay.
+TEST(Rules, StandardGamesAndFewerPiles) {
   test::TestProgram t;
   struct Row { const char* name; int suits, mOrder, multiOrder; };
   for (const Row& r : {Row{"Spider", 2, 0, 4}, {"Spider Single Suit", 0, 0, 4}, {"Spider Two Suit", 1, 0, 4},
@@ -85,22 +86,11 @@ TEST(Rules, StandardGames) {
               (std::vector<int>{10, 4, 13, 0, 1, r.suits, r.mOrder})) << r.name;
     cGames g;
     SetupGame(c, g);
-    EXPECT_EQ(g.MultiOrder(), r.multiOrder) << r.name;
-    EXPECT_EQ((std::vector<int>{g.Order(0, 0), g.EmptyNum(), g.Piles(0), g.Piles(3), g.TotalCards(), g.BaseX()}),
-              (std::vector<int>{4, 13, 10, 8, 104, 11550})) << r.name;
-    EXPECT_TRUE(g.MultiMove());
+    EXPECT_EQ((std::vector<int>{g.MultiOrder(), g.Order(0, 0), g.EmptyNum(), g.Piles(0), g.Piles(3), g.TotalCards(),
+                                g.BaseX(), g.MultiMove()}),
+              (std::vector<int>{r.multiOrder, 4, 13, 10, 8, 104, 11550, true})) << r.name;
   }
-  cCustom c(*t.app);
-  SetStdGame(c, "Plaza");
-  EXPECT_FALSE(SetStdGame(c, "spider"));  // no standard game: the rules stay as they were
-  EXPECT_EQ(c.GameName, "Plaza");
-  EXPECT_EQ(c.MOrder, 1);
-}
-
-TEST(Rules, TableauStartCentresFewerPiles) {
-  test::TestProgram t;
-  const std::pair<int, int> startX[] = {{10, 0}, {9, 582}, {8, 1165}, {7, 1748}, {6, 2330}};
-  for (auto [piles, x] : startX) {
+  for (auto [piles, x] : {std::pair{10, 0}, {9, 582}, {8, 1165}, {7, 1748}, {6, 2330}}) {
     cCustom c(*t.app);
     c.Home(static_cast<int16_t>(piles), 4, 13, 0, 1, 2, 0);
     cGames g;
@@ -108,6 +98,10 @@ TEST(Rules, TableauStartCentresFewerPiles) {
     EXPECT_EQ(std::tuple(g.Area(0).StartX, g.CardsOpen(), g.Area(1).StartX, g.Area(3).StartX), std::tuple(x, piles, 532, 2130))
         << piles;
   }
+  cCustom c(*t.app);
+  SetStdGame(c, "Plaza");
+  EXPECT_FALSE(SetStdGame(c, "spider"));  // no standard game: the rules stay as they were
+  EXPECT_EQ(std::tuple(c.GameName, c.MOrder), std::tuple("Plaza", 1));
 }
 
 TEST(Rules, GroupsFollowTheGroupOrder) {

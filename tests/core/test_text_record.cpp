@@ -28,9 +28,8 @@ TEST(TextRecord, TheProgramsRecordsReadFieldByField) {
   EXPECT_EQ(Fields("10,4,13,0,1,2,0"), (V{"b10", "b4", "b13", "b0", "b1", "b2", "b0"}));
   // A comma inside quotes is the text's; an empty field is a field.
   EXPECT_EQ(Fields("\"Spider, Mine\",\"\",,7"), (V{"qSpider, Mine", "q", "b", "b7"}));
-  EXPECT_EQ(Fields("\"cut short,1"), V{"unreadable"});
-  EXPECT_EQ(Fields("\"a\"b,1"), V{"unreadable"});
-  EXPECT_EQ(Fields("#11/17/2026,1"), V{"unreadable"});
+  for (const char* broken : {"\"cut short,1", "\"a\"b,1", "#11/17/2026,1"})
+    EXPECT_EQ(Fields(broken), V{"unreadable"}) << broken;
 }
 
 TEST(TextRecord, GameNumbersKeepTheirFormAndNumbersTheirRange) {
@@ -38,13 +37,11 @@ TEST(TextRecord, GameNumbersKeepTheirFormAndNumbersTheirRange) {
                     RecordGameNo(GameNo::Number(uint64_t{123456789012345})) + ",2147483647,2147483648,-5";
   EXPECT_EQ(line, "\"Spider\",\"000123\",123456789012345,2147483647,2147483648,-5");
   const auto fields = *SplitRecord(line);
-  EXPECT_EQ(ReadRecordGameNo(fields[1]), GameNo::Typed("000123"));
-  EXPECT_EQ(ReadRecordGameNo(fields[2]), GameNo::Number("123456789012345"));
-  EXPECT_EQ(ReadRecordGameNo(fields[0]), std::nullopt);
-  EXPECT_EQ(ReadIntField(fields[3]), 2147483647);
-  EXPECT_EQ(ReadIntField(fields[4]), std::nullopt);  // beyond 32 bits
-  EXPECT_EQ(ReadIntField(fields[5]), -5);
-  EXPECT_EQ(ReadIntField(fields[1]), std::nullopt);  // a text is no number
+  EXPECT_EQ(std::tuple(ReadRecordGameNo(fields[1]), ReadRecordGameNo(fields[2]), ReadRecordGameNo(fields[0])),
+            std::tuple(GameNo::Typed("000123"), GameNo::Number("123456789012345"), std::nullopt));
+  // Beyond 32 bits, or a text, is no number.
+  EXPECT_EQ(std::tuple(ReadIntField(fields[3]), ReadIntField(fields[4]), ReadIntField(fields[5]), ReadIntField(fields[1])),
+            std::tuple(2147483647, std::nullopt, -5, std::nullopt));
   EXPECT_EQ(SplitLines("a\r\nb\nc"), (std::vector<std::string_view>{"a", "b", "c"}));
 }
 
@@ -65,13 +62,10 @@ TEST(TextRecord, AppendingEndsACutLineFirstAndRenameRefusesATakenName) {
   EXPECT_EQ(test::ReadFile(t.home.File("new.txt")), "first\r\n");
   std::string error;
   EXPECT_FALSE(t->cFileSys.Rename(file, t.home.File("new.txt"), &error));
-  EXPECT_FALSE(error.empty());
-  EXPECT_EQ(test::ReadFile(t.home.File("new.txt")), "first\r\n");
-  EXPECT_TRUE(t->cFileSys.Rename(file, t.home.File("moved.txt")));
-  EXPECT_FALSE(std::filesystem::exists(file));
+  EXPECT_EQ(std::tuple(error.empty(), test::ReadFile(t.home.File("new.txt"))), std::tuple(false, "first\r\n"));
+  EXPECT_TRUE(t->cFileSys.Rename(file, t.home.File("moved.txt")) && !std::filesystem::exists(file));
   std::filesystem::create_directories(t.home.File("folder/inner"));
-  EXPECT_TRUE(t->cFileSys.DeleteFolder(t.home.File("folder")));
-  EXPECT_FALSE(std::filesystem::exists(t.home.File("folder")));
+  EXPECT_TRUE(t->cFileSys.DeleteFolder(t.home.File("folder")) && !std::filesystem::exists(t.home.File("folder")));
 }
 
 }  // namespace
