@@ -148,7 +148,7 @@ RowByRowResult WinRowByRow(const SolverGame& g, const SearchLimits& limits) {
   RowSearch search(g, limits, out);
   // Searches that value tables differently get stuck in different places: at each width
   // the passes take turns with a few ways of counting progress.
-  constexpr ProgressWeights turns[] = {{120, 100, 12}, {0, 100, 12}, {60, 300, 12}};
+  constexpr ProgressWeights turns[] = {{120, 100, 12}, {0, 100, 12}, {60, 300, 12}, {200, 300, 12}};
   for (int64_t width = 200;; width *= 3) {
     for (const ProgressWeights& weights : turns) {
       for (int spare = 0; spare <= 2; ++spare) {
