@@ -5,6 +5,7 @@
 
 #include <benchmark/benchmark.h>
 
+
 #include <QApplication>
 #include <QCoreApplication>
 #include <QImage>
@@ -14,6 +15,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "QtBenchMain.h"
 #include "BackgroundPainter.h"
 #include "MainWindow.h"
 #include "QtBackground.h"
@@ -122,17 +124,4 @@ BENCHMARK(BM_PhotoDecode)->UseRealTime()->Unit(benchmark::kMillisecond);
 }  // namespace
 }  // namespace qv
 
-int main(int argc, char** argv) {
-  if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  // The window's start-up writes settings, file types and schemes: into a home of its own.
-  const auto home = std::filesystem::temp_directory_path() / "quorvale-bench-home";
-  std::filesystem::create_directories(home);
-  setenv("HOME", home.c_str(), 1);
-  setenv("XDG_DATA_HOME", (home / "data").c_str(), 1);
-  setenv("XDG_CONFIG_HOME", (home / "config").c_str(), 1);
-  QApplication app(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
-}
+int main(int argc, char** argv) { return qv::RunQtBenchmarks(argc, argv); }

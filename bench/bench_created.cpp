@@ -4,10 +4,11 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
+
 #include <QComboBox>
 #include <QTreeWidget>
 
+#include "QtBenchMain.h"
 #include "AddGameDialog.h"
 #include "GameStudioDialog.h"
 #include "PreviewPainter.h"
@@ -69,12 +70,4 @@ BENCHMARK(BM_ComboToPreview)->UseRealTime()->Unit(benchmark::kMillisecond);
 }  // namespace
 }  // namespace qv
 
-int main(int argc, char** argv) {
-  setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  QApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
-}
+int main(int argc, char** argv) { return qv::RunQtBenchmarks(argc, argv); }

@@ -10,6 +10,7 @@
 
 #include <benchmark/benchmark.h>
 
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
@@ -26,6 +27,7 @@
 #include <thread>
 #include <vector>
 
+#include "QtBenchMain.h"
 #include "MainWindow.h"
 #include "QtSprites.h"
 #include "TableView.h"
@@ -268,35 +270,7 @@ BENCHMARK(BM_DragFrameEventLoop)->ArgName("cards")->Arg(12)->Arg(1)->UseRealTime
 BENCHMARK(BM_DragFrameWhileSolving)->ArgName("cards")->Arg(12)->UseRealTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(BM_TwelveSpritesFrameRepaint)->UseRealTime()->Unit(benchmark::kMicrosecond);
 
-// The offscreen platform says at every window it cannot pass size hints on; the rest of
-// Qt's messages go through as usual.
-QtMessageHandler qtDefaultHandler = nullptr;
-void QuietHandler(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-  if (message.contains("propagateSizeHints")) return;
-  if (qtDefaultHandler) qtDefaultHandler(type, context, message);
-}
-
 }  // namespace
 }  // namespace qv
 
-int main(int argc, char** argv) {
-  // The window's program reads its folders from the environment: a temporary home keeps
-  // the user's real settings and games out of reach.
-  qv::test::TempHome home;
-  const std::string h = home.Path().string();
-  setenv("HOME", h.c_str(), 1);
-  setenv("XDG_CONFIG_HOME", (h + "/.config").c_str(), 1);
-  setenv("XDG_DATA_HOME", (h + "/.local/share").c_str(), 1);
-  setenv("XDG_CACHE_HOME", (h + "/.cache").c_str(), 1);
-  std::filesystem::create_directories(h + "/runtime");
-  std::filesystem::permissions(h + "/runtime", std::filesystem::perms::owner_all);
-  setenv("XDG_RUNTIME_DIR", (h + "/runtime").c_str(), 1);
-  setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  qv::qtDefaultHandler = qInstallMessageHandler(qv::QuietHandler);
-  QApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
-}
+int main(int argc, char** argv) { return qv::RunQtBenchmarks(argc, argv); }

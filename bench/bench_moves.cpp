@@ -6,7 +6,8 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
+#include <QCoreApplication>
+
 #include <QElapsedTimer>
 #include <QEvent>
 #include <QPushButton>
@@ -14,10 +15,10 @@
 #include <QThread>
 #include <QTreeView>
 #include <algorithm>
-#include <cstdlib>
 #include <string>
 #include <vector>
 
+#include "QtBenchMain.h"
 #include "HistoryDialog.h"
 #include "MainWindow.h"
 #include "QtSprites.h"
@@ -194,18 +195,4 @@ BENCHMARK(BM_StartClick1000)->Iterations(1)->Unit(benchmark::kMillisecond);
 }  // namespace
 }  // namespace qv
 
-int main(int argc, char** argv) {
-  // The window's program reads its folders from the environment: a temporary home keeps
-  // the user's real settings and games out of reach.
-  qv::test::TempHome home;
-  const std::string h = home.Path().string();
-  setenv("HOME", h.c_str(), 1);
-  setenv("XDG_CONFIG_HOME", (h + "/.config").c_str(), 1);
-  setenv("XDG_DATA_HOME", (h + "/.local/share").c_str(), 1);
-  if (!std::getenv("QT_QPA_PLATFORM")) setenv("QT_QPA_PLATFORM", "offscreen", 1);
-  QApplication qapp(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
-}
+int main(int argc, char** argv) { return qv::RunQtBenchmarks(argc, argv); }

@@ -6,6 +6,7 @@
 
 #include <benchmark/benchmark.h>
 
+
 #include <QApplication>
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -17,6 +18,7 @@
 #include <random>
 #include <string>
 
+#include "QtBenchMain.h"
 #include "FinishDialog.h"
 #include "GameStatDialog.h"
 #include "HighScoreDialog.h"
@@ -262,17 +264,8 @@ int Screenshots(const std::string& dir) {
 }  // namespace qv
 
 int main(int argc, char** argv) {
-  qv::test::TempHome home;
-  const std::string h = home.Path().string();
-  setenv("HOME", h.c_str(), 1);
-  setenv("XDG_RUNTIME_DIR", h.c_str(), 1);
-  setenv("QT_QPA_PLATFORM", "offscreen", 0);
   setenv("TZ", "UTC", 1);
-  QApplication application(argc, argv);
-  if (argc == 3 && std::string(argv[1]) == "--screenshots") return qv::Screenshots(argv[2]);
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
+  return qv::RunQtBenchmarks(argc, argv, [](int n, char** args) {
+    return n == 3 && std::string(args[1]) == "--screenshots" ? qv::Screenshots(args[2]) : -1;
+  });
 }

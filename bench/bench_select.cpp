@@ -4,12 +4,14 @@
 // otherwise the figure is reported as an error.
 #include <benchmark/benchmark.h>
 
+
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QTreeWidget>
 #include <filesystem>
 #include <string>
 
+#include "QtBenchMain.h"
 #include "MainWindow.h"
 #include "OrgFavDialog.h"
 #include "SelectDialog.h"
@@ -140,19 +142,4 @@ BENCHMARK(BM_OrganizeShown)->UseManualTime()->Unit(benchmark::kMillisecond);
 }  // namespace
 }  // namespace qv
 
-int main(int argc, char** argv) {
-  // A home of its own, left behind in /dev/shm only for the run.
-  char dir[] = "/dev/shm/quorvale-bench-select.XXXXXX";
-  const std::string h = mkdtemp(dir);
-  setenv("HOME", h.c_str(), 1);
-  setenv("XDG_CONFIG_HOME", (h + "/.config").c_str(), 1);
-  setenv("XDG_DATA_HOME", (h + "/.local/share").c_str(), 1);
-  setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  QApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  std::filesystem::remove_all(h);
-  return 0;
-}
+int main(int argc, char** argv) { return qv::RunQtBenchmarks(argc, argv); }
