@@ -37,7 +37,7 @@ class Search {
   // nothing. The whole search goes best first over every move.
   Search(const SolverGame& g, const SolverBudget& b, std::stop_token stop, const std::function<bool()>& hook,
          Mode mode)
-      : g_(g), budget_(b), stop_(std::move(stop)), hook_(hook), mode_(mode), narrow_(mode != Mode::Whole),
+      : g_(g), budget_(b), stop_(std::move(stop)), hook_(hook), mode_(mode),
         seen_(static_cast<size_t>(b.mb) << 19) {}
 
   SolverResult Run();
@@ -53,8 +53,7 @@ class Search {
   SolverBudget budget_;
   std::stop_token stop_;
   const std::function<bool()>& hook_;
-  Mode mode_;
-  bool narrow_;
+  Mode mode_;  // Search runs a dive or the whole search; the rows have their own
   PositionTable seen_;
   std::vector<Expanded> expanded_;
   std::priority_queue<Open> open_;
@@ -109,13 +108,14 @@ SolverResult Search::Run() {
   for (;;) {
     // Every position reached from the one in hand goes on the open list once.
     g_.Moves(expanded_[current].pos, moves_);
-    const int here = narrow_ ? Progress(g_, expanded_[current].pos) : 0;
+    const bool dive = mode_ == Mode::Dive;
+    const int here = dive ? Progress(g_, expanded_[current].pos) : 0;
     for (const SolverMove& m : moves_) {
       if (OutOfBudget()) return Finish(Verdict::Unknown);
       SolverPosition next = expanded_[current].pos;
       g_.Apply(next, m);
       const int score = Progress(g_, next);
-      if (narrow_ && score <= here && m.kind != SolverMove::Stock) continue;
+      if (dive && score <= here && m.kind != SolverMove::Stock) continue;
       switch (seen_.Visit(g_.Hash(next), next.room)) {
         case PositionTable::Known: continue;
         case PositionTable::Full: limit_ = "memory"; return Finish(Verdict::Unknown);
@@ -127,7 +127,7 @@ SolverResult Search::Run() {
         return Finish(Verdict::Winnable, static_cast<uint32_t>(expanded_.size() - 1));
       }
       const int depth = expanded_[current].depth + 1;
-      const int64_t key = mode_ == Mode::Dive ? (int64_t{depth} << 32) + score - (m.kind == SolverMove::Stock ? 1 << 24 : 0) : score;
+      const int64_t key = dive ? (int64_t{depth} << 32) + score - (m.kind == SolverMove::Stock ? 1 << 24 : 0) : score;
       open_.push({key, ++order_, current, m});
     }
     peakBytes_ = std::max(peakBytes_, Bytes());
